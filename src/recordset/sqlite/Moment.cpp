@@ -1,0 +1,179 @@
+#include "recordset/sqlite/Moment.h"
+
+#include <chrono>
+#include <cmath>
+#include <cstdint>
+
+namespace Tessellon::Sqlite {
+
+namespace {
+
+constexpr std::int64_t MicrosecondsPerDay = 86'400'000'000;
+constexpr std::int64_t DaysFromSerialZeroTo1970 = 25'569;
+constexpr std::int64_t FirstDay = -657'434; // 1 January 100
+constexpr std::int64_t LastDay = 2'958'465; // 31 December 9999
+constexpr double JulianDayOfSerialZero = 2'415'018.5;
+constexpr double LastJulianDay = 5'373'484.5;
+constexpr double MillisecondsPerDay = 86'400'000.0;
+
+/// From microseconds behind 30 December 1899. Ahead of that day the fraction still counts the time from midnight on, so
+/// it grows away from zero.
+std::optional<double> Serial(std::int64_t microseconds)
+{
+    std::int64_t day = microseconds / MicrosecondsPerDay;
+    std::int64_t rest = microseconds % MicrosecondsPerDay;
+    if (rest < 0) {
+        rest += MicrosecondsPerDay;
+        --day;
+    }
+    if (day < FirstDay || day > LastDay)
+        return std::nullopt;
+    const double fraction = static_cast<double>(rest) / static_cast<double>(MicrosecondsPerDay);
+    return day < 0 ? static_cast<double>(day) - fraction : static_cast<double>(day) + fraction;
+}
+
+class Reader {
+public:
+    explicit Reader(std::u16string_view text)
+        : text_(text)
+    {
+    }
+
+    [[nodiscard]] bool AtEnd() const { return text_.empty(); }
+    [[nodiscard]] bool Sees(char16_t character, std::size_t ahead = 0) const
+    {
+        return text_.size() > ahead && text_[ahead] == character;
+    }
+    [[nodiscard]] bool SeesDigit() const { return !text_.empty() && text_.front() >= u'0' && text_.front() <= u'9'; }
+
+    bool Take(char16_t character)
+    {
+        if (!Sees(character))
+            return false;
+        text_.remove_prefix(1);
+        return true;
+    }
+
+    /// A number of just so many digits, or -1.
+    int Number(int digits)
+    {
+        int number = 0;
+        for (int i = 0; i < digits; ++i) {
+            if (!SeesDigit())
+                return -1;
+            number = number * 10 + (text_.front() - u'0');
+            text_.remove_prefix(1);
+        }
+        return number;
+    }
+
+private:
+    std::u16string_view text_;
+};
+
+std::optional<std::int64_t> ReadDay(Reader& reader)
+{
+    const int year = reader.Number(4);
+    if (year < 0 || !reader.Take(u'-'))
+        return std::nullopt;
+    const int month = reader.Number(2);
+    if (month < 0 || !reader.Take(u'-'))
+        return std::nullopt;
+    const int day = reader.Number(2);
+    if (day < 0)
+        return std::nullopt;
+    const std::chrono::year_month_day date(std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
+                                           std::chrono::day(static_cast<unsigned>(day)));
+    if (!date.ok())
+        return std::nullopt;
+    return std::chrono::sys_days(date).time_since_epoch().count() + DaysFromSerialZeroTo1970;
+}
+
+/// "HH:MM" as minutes.
+std::optional<int> ReadMinutes(Reader& reader)
+{
+    const int hour = reader.Number(2);
+    if (hour < 0 || hour > 23 || !reader.Take(u':'))
+        return std::nullopt;
+    const int minute = reader.Number(2);
+    if (minute < 0 || minute > 59)
+        return std::nullopt;
+    return hour * 60 + minute;
+}
+
+/// The time of day in microseconds, less the offset of its zone.
+std::optional<std::int64_t> ReadTime(Reader& reader)
+{
+    const std::optional<int> minutes = ReadMinutes(reader);
+    if (!minutes)
+        return std::nullopt;
+    std::int64_t time = std::int64_t{*minutes} * 60'000'000;
+    if (reader.Take(u':')) {
+        const int second = reader.Number(2);
+        if (second < 0 || second > 59)
+            return std::nullopt;
+        time += std::int64_t{second} * 1'000'000;
+        if (reader.Take(u'.')) {
+            if (!reader.SeesDigit())
+                return std::nullopt;
+            for (std::int64_t unit = 100'000; reader.SeesDigit(); unit /= 10)
+                time += unit * reader.Number(1);
+        }
+    }
+    reader.Take(u' ');
+    if (reader.Take(u'Z') || reader.Take(u'z') || reader.AtEnd())
+        return time;
+    const std::int64_t sign = reader.Sees(u'-') ? -1 : 1;
+    if (!reader.Take(u'+') && !reader.Take(u'-'))
+        return std::nullopt;
+    const std::optional<int> offset = ReadMinutes(reader);
+    if (!offset)
+        return std::nullopt;
+    return time - sign * *offset * std::int64_t{60'000'000};
+}
+
+} // namespace
+
+std::optional<double> SerialOfText(std::u16string_view text)
+{
+    Reader reader(text);
+    std::optional<std::int64_t> day = 0;
+    if (!reader.Sees(u':', 2)) {
+        day = ReadDay(reader);
+        if (!day || *day < FirstDay)
+            return std::nullopt;
+        if (reader.AtEnd())
+            return static_cast<double>(*day);
+        if (!reader.Take(u'T') && !reader.Take(u't') && !reader.Take(u' '))
+            return std::nullopt;
+    }
+    const std::optional<std::int64_t> time = ReadTime(reader);
+    if (!time || !reader.AtEnd())
+        return std::nullopt;
+    return Serial(*day * MicrosecondsPerDay + *time);
+}
+
+std::optional<double> SerialOfNumber(double number)
+{
+    // Ahead of the rounding, which needs a number that fits.
+    if (!(number > -1e12 && number < 1e12))
+        return std::nullopt;
+    const bool isJulianDay = number >= 0 && number < LastJulianDay;
+    const double milliseconds =
+        isJulianDay
+            ? std::floor(number * MillisecondsPerDay + 0.5) - JulianDayOfSerialZero * MillisecondsPerDay
+            : std::floor(number * 1000.0 + 0.5) + static_cast<double>(DaysFromSerialZeroTo1970) * MillisecondsPerDay;
+    return Serial(static_cast<std::int64_t>(milliseconds) * 1000);
+}
+
+std::optional<double> TimeOfNumber(double number)
+{
+    if (number >= 0 && number < 1)
+        return number;
+    const std::optional<double> serial = SerialOfNumber(number);
+    if (!serial)
+        return std::nullopt;
+    return std::abs(*serial - std::trunc(*serial));
+}
+
+} // namespace Tessellon::Sqlite

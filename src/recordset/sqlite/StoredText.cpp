@@ -1,0 +1,82 @@
+#include "recordset/sqlite/StoredText.h"
+
+#include "recordset/sqlite/Moment.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace Tessellon::Sqlite {
+
+namespace {
+
+std::u16string_view WithoutBlanks(std::u16string_view text)
+{
+    while (!text.empty() && text.front() == u' ')
+        text.remove_prefix(1);
+    while (!text.empty() && text.back() == u' ')
+        text.remove_suffix(1);
+    return text;
+}
+
+/// Sign, digits and at most one point, at least one digit.
+bool IsDecimal(std::u16string_view text)
+{
+    if (!text.empty() && (text.front() == u'-' || text.front() == u'+'))
+        text.remove_prefix(1);
+    bool hasPoint = false;
+    bool hasDigit = false;
+    for (const char16_t character : text) {
+        if (character >= u'0' && character <= u'9')
+            hasDigit = true;
+        else if (character == u'.' && !hasPoint)
+            hasPoint = true;
+        else
+            return false;
+    }
+    return hasDigit;
+}
+
+/// Whether text is word, which is in lower case, with letters of either case.
+bool IsWord(std::u16string_view text, std::u16string_view word)
+{
+    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](char16_t one, char16_t other) {
+        return (one >= u'A' && one <= u'Z' ? one - u'A' + u'a' : one) == other;
+    });
+}
+
+std::optional<bool> TruthOf(std::u16string_view text)
+{
+    constexpr std::u16string_view yes[] = {u"1", u"true", u"t", u"yes", u"y", u"on"};
+    constexpr std::u16string_view no[] = {u"0", u"false", u"f", u"no", u"n", u"off"};
+    const auto isText = [&](std::u16string_view word) { return IsWord(text, word); };
+    if (std::any_of(std::begin(yes), std::end(yes), isText))
+        return true;
+    if (std::any_of(std::begin(no), std::end(no), isText))
+        return false;
+    return std::nullopt;
+}
+
+} // namespace
+
+Value ReadText(std::u16string_view text, Reading reading)
+{
+    switch (reading) {
+    case Reading::Boolean:
+        if (const std::optional<bool> truth = TruthOf(WithoutBlanks(text)))
+            return Value::OfBoolean(*truth);
+        break;
+    case Reading::DateTime:
+    case Reading::Time:
+        if (const std::optional<double> serial = SerialOfText(WithoutBlanks(text)))
+            return Value::OfDate(*serial);
+        break;
+    case Reading::Decimal:
+        if (const std::u16string_view digits = WithoutBlanks(text); IsDecimal(digits))
+            return Value::OfDecimal(digits);
+        break;
+    default: break;
+    }
+    return Value::OfText(text);
+}
+
+} // namespace Tessellon::Sqlite
