@@ -1,0 +1,377 @@
+#include "engine/grid/CellChunk.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <new>
+#include <utility>
+
+namespace Tessellon {
+
+namespace {
+
+constexpr std::uint16_t wideMark = 0x8000;
+constexpr std::uint16_t lengthMask =
+    0x7FFF; ///< As a length itself: the length stands in the arena, ahead of the units.
+constexpr std::size_t longPrefix = sizeof(std::uint32_t);
+constexpr std::size_t leastGarbage = 256;
+
+bool FitsBytes(std::u16string_view text)
+{
+    std::uint32_t all = 0;
+    for (const char16_t unit : text)
+        all |= unit;
+    return all < 256;
+}
+
+bool IsAhead(const CellExtra& extra, const std::pair<std::int32_t, std::int32_t>& place)
+{
+    return std::pair(extra.Row, extra.Col) < place;
+}
+
+} // namespace
+
+char16_t* TextScratch::Room(std::size_t units)
+{
+    if (units > capacity_) {
+        const std::size_t wanted = std::max<std::size_t>(units + units / 2, 256);
+        units_ = std::make_unique_for_overwrite<char16_t[]>(wanted);
+        capacity_ = wanted;
+    }
+    return units_.get();
+}
+
+CellChunk::CellChunk(std::int32_t rows, std::int32_t cols)
+    : rows_(rows)
+    , cols_(cols)
+{
+}
+
+void CellChunk::Hold(std::int32_t capacity)
+{
+    capacity_ = capacity;
+}
+
+CellChunk::Extent CellChunk::ExtentOf(const Cell& cell) const
+{
+    const std::uint16_t length = cell.Length & lengthMask;
+    const bool isWide = (cell.Length & wideMark) != 0;
+    const std::size_t unitBytes = isWide ? 2 : 1;
+    if (length != lengthMask)
+        return {cell.Offset(), length, isWide, length * unitBytes};
+    std::uint32_t units = 0;
+    std::memcpy(&units, arena_.get() + cell.Offset(), longPrefix);
+    return {cell.Offset() + longPrefix, units, isWide, units * unitBytes + longPrefix};
+}
+
+std::u16string_view CellChunk::Text(std::int32_t row, std::int32_t col, TextScratch& scratch) const
+{
+    if (!cells_)
+        return {};
+    const Cell cell = cells_[Index(row, col)];
+    if (cell.Length == 0)
+        return {};
+    const Extent extent = ExtentOf(cell);
+    char16_t* units = scratch.Room(extent.Units);
+    const char* from = arena_.get() + extent.Begin;
+    if (extent.IsWide)
+        std::memcpy(units, from, extent.Units * 2);
+    else
+        for (std::size_t index = 0; index < extent.Units; ++index)
+            units[index] = static_cast<unsigned char>(from[index]);
+    return {units, extent.Units};
+}
+
+void CellChunk::Resize(std::size_t capacity)
+{
+    auto arena = std::make_unique_for_overwrite<char[]>(capacity);
+    if (arenaSize_ > 0)
+        std::memcpy(arena.get(), arena_.get(), arenaSize_);
+    arena_ = std::move(arena);
+    arenaCapacity_ = capacity;
+}
+
+std::size_t CellChunk::Room(std::size_t bytes, std::size_t hint)
+{
+    const std::size_t wanted = arenaSize_ + bytes;
+    if (wanted > std::numeric_limits<std::uint32_t>::max())
+        throw std::bad_alloc();
+    if (wanted > arenaCapacity_)
+        Resize(isTrimmed_ ? wanted + wanted / 8 : std::max({wanted, arenaCapacity_ * 2, hint, std::size_t{64}}));
+    return std::exchange(arenaSize_, wanted);
+}
+
+void CellChunk::Drop(Cell& cell)
+{
+    if (cell.Length != 0)
+        garbage_ += ExtentOf(cell).Bytes;
+    cell = Cell();
+}
+
+bool CellChunk::Holds(const Cell& cell, std::u16string_view text, bool isWide) const
+{
+    if (cell.Length == 0)
+        return text.empty();
+    const Extent extent = ExtentOf(cell);
+    if (extent.Units != text.size() || extent.IsWide != isWide)
+        return false;
+    const char* units = arena_.get() + extent.Begin;
+    if (isWide)
+        return std::memcmp(units, text.data(), extent.Units * 2) == 0;
+    return std::equal(text.begin(), text.end(), units,
+                      [](char16_t left, char right) { return left == static_cast<unsigned char>(right); });
+}
+
+bool CellChunk::SetText(std::int32_t row, std::int32_t col, std::u16string_view text, std::size_t hint)
+{
+    if (!cells_) {
+        if (text.empty())
+            return false;
+        cells_ = std::make_unique<Cell[]>(Index(capacity_) * Index(cols_));
+    }
+    Cell& cell = cells_[Index(row, col)];
+    const bool isWide = !FitsBytes(text);
+    if (Holds(cell, text, isWide))
+        return false;
+    const bool isLong = text.size() >= lengthMask;
+    const std::size_t bytes = text.size() * (isWide ? 2 : 1) + (isLong ? longPrefix : 0);
+    const std::size_t before = cell.Length == 0 ? 0 : ExtentOf(cell).Bytes;
+    std::size_t offset = cell.Offset();
+    if (bytes > before)
+        offset = Room(bytes, hint);
+    garbage_ += bytes > before ? before : before - bytes;
+
+    char* to = arena_.get() + offset;
+    if (isLong) {
+        const auto units = static_cast<std::uint32_t>(text.size());
+        std::memcpy(to, &units, longPrefix);
+        to += longPrefix;
+    }
+    if (isWide)
+        std::memcpy(to, text.data(), text.size() * 2);
+    else
+        for (std::size_t index = 0; index < text.size(); ++index)
+            to[index] = static_cast<char>(text[index]);
+    cell.OffsetLow = static_cast<std::uint16_t>(offset & 0xFFFFU);
+    cell.OffsetHigh = static_cast<std::uint16_t>(offset >> 16U);
+    cell.Length = static_cast<std::uint16_t>((isLong ? lengthMask : text.size()) | (isWide ? wideMark : 0U));
+    if (garbage_ > leastGarbage && garbage_ > arenaSize_ / 2)
+        Compact();
+    return true;
+}
+
+void CellChunk::CopyText(Cell& cell, const CellChunk& from, const Cell& source)
+{
+    if (source.Length == 0)
+        return;
+    const std::size_t bytes = from.ExtentOf(source).Bytes;
+    const std::size_t offset = Room(bytes, 0);
+    std::memcpy(arena_.get() + offset, from.arena_.get() + source.Offset(), bytes);
+    cell.OffsetLow = static_cast<std::uint16_t>(offset & 0xFFFFU);
+    cell.OffsetHigh = static_cast<std::uint16_t>(offset >> 16U);
+    cell.Length = source.Length;
+}
+
+std::size_t CellChunk::TextBytes(std::int32_t firstRow, std::int32_t count) const
+{
+    std::size_t bytes = 0;
+    if (cells_)
+        for (std::size_t index = Index(firstRow, 0); index < Index(firstRow + count, 0); ++index)
+            if (cells_[index].Length != 0)
+                bytes += ExtentOf(cells_[index]).Bytes;
+    return bytes;
+}
+
+void CellChunk::Compact()
+{
+    CellChunk packed(rows_, cols_);
+    packed.Hold(capacity_);
+    packed.isTrimmed_ = true;
+    packed.CopyRows(0, *this, 0, rows_);
+    cells_ = std::move(packed.cells_);
+    arena_ = std::move(packed.arena_);
+    arenaSize_ = packed.arenaSize_;
+    arenaCapacity_ = packed.arenaCapacity_;
+    garbage_ = 0;
+    isTrimmed_ = true;
+}
+
+std::size_t CellChunk::Trim()
+{
+    if (arenaCapacity_ - arenaSize_ > arenaSize_ / 8 + leastGarbage / 4)
+        Resize(arenaSize_);
+    isTrimmed_ = true;
+    return arenaSize_;
+}
+
+void CellChunk::CopyRows(std::int32_t row, const CellChunk& from, std::int32_t firstRow, std::int32_t count)
+{
+    if (const std::size_t bytes = from.TextBytes(firstRow, count); bytes > 0) {
+        if (arenaSize_ + bytes > arenaCapacity_)
+            Resize(arenaSize_ + bytes);
+        if (!cells_)
+            cells_ = std::make_unique<Cell[]>(Index(capacity_) * Index(cols_));
+        const std::int32_t shared = std::min(cols_, from.cols_);
+        for (std::int32_t index = 0; index < count; ++index)
+            for (std::int32_t col = 0; col < shared; ++col)
+                CopyText(cells_[Index(row + index, col)], from, from.cells_[from.Index(firstRow + index, col)]);
+    }
+    for (std::int32_t index = 0; index < count; ++index)
+        if (from.Band(firstRow + index) != 0)
+            SetBand(row + index, from.Band(firstRow + index));
+    for (CellExtra extra : from.extras_)
+        if (extra.Row >= firstRow && extra.Row < firstRow + count && extra.Col < cols_) {
+            extra.Row += row - firstRow;
+            SetExtra(extra);
+        }
+}
+
+void CellChunk::Cut(std::int32_t rows)
+{
+    if (cells_) {
+        for (std::size_t index = Index(rows, 0); index < Index(rows_, 0); ++index)
+            Drop(cells_[index]);
+        if (garbage_ > leastGarbage && garbage_ > arenaSize_ / 2)
+            Compact();
+    }
+    if (bands_)
+        std::fill(bands_.get() + rows, bands_.get() + rows_, std::uint8_t{0});
+    std::erase_if(extras_, [rows](const CellExtra& extra) { return extra.Row >= rows; });
+    rows_ = rows;
+}
+
+void CellChunk::InsertRow(std::int32_t row)
+{
+    if (cells_) {
+        std::move_backward(&cells_[0] + Index(row, 0), &cells_[0] + Index(rows_, 0), &cells_[0] + Index(rows_ + 1, 0));
+        std::fill_n(&cells_[0] + Index(row, 0), cols_, Cell());
+    }
+    if (bands_) {
+        std::move_backward(bands_.get() + row, bands_.get() + rows_, bands_.get() + rows_ + 1);
+        bands_[Index(row)] = 0;
+    }
+    for (CellExtra& extra : extras_)
+        if (extra.Row >= row)
+            ++extra.Row;
+    ++rows_;
+}
+
+void CellChunk::RemoveRow(std::int32_t row)
+{
+    if (cells_) {
+        for (std::int32_t col = 0; col < cols_; ++col)
+            Drop(cells_[Index(row, col)]);
+        std::move(&cells_[0] + Index(row + 1, 0), &cells_[0] + Index(rows_, 0), &cells_[0] + Index(row, 0));
+        std::fill_n(&cells_[0] + Index(rows_ - 1, 0), cols_, Cell());
+    }
+    if (bands_) {
+        std::move(bands_.get() + row + 1, bands_.get() + rows_, bands_.get() + row);
+        bands_[Index(rows_ - 1)] = 0;
+    }
+    std::erase_if(extras_, [row](const CellExtra& extra) { return extra.Row == row; });
+    for (CellExtra& extra : extras_)
+        if (extra.Row > row)
+            --extra.Row;
+    --rows_;
+    if (cells_ && garbage_ > leastGarbage && garbage_ > arenaSize_ / 2)
+        Compact();
+}
+
+void CellChunk::SetCols(std::int32_t cols)
+{
+    CellChunk other(rows_, cols);
+    other.Hold(capacity_);
+    other.isTrimmed_ = isTrimmed_;
+    other.CopyRows(0, *this, 0, IsBlank() ? 0 : rows_);
+    const bool isBare = !other.cells_ && !other.bands_ && other.extras_.empty();
+    *this = std::move(other);
+    if (isBare)
+        capacity_ = 0;
+}
+
+std::unique_ptr<CellChunk> CellChunk::Split(std::int32_t row)
+{
+    auto next = std::make_unique<CellChunk>(rows_ - row, cols_);
+    if (!IsBlank()) {
+        next->Hold(capacity_);
+        next->isTrimmed_ = isTrimmed_;
+        next->CopyRows(0, *this, row, rows_ - row);
+    }
+    Cut(row);
+    return next;
+}
+
+void CellChunk::Append(const CellChunk& next)
+{
+    const std::int32_t row = rows_;
+    rows_ += next.rows_;
+    if (!next.IsBlank())
+        CopyRows(row, next, 0, next.rows_);
+}
+
+void CellChunk::SetBand(std::int32_t row, std::uint8_t band)
+{
+    if (!bands_) {
+        if (band == 0)
+            return;
+        bands_ = std::make_unique<std::uint8_t[]>(Index(capacity_));
+    }
+    bands_[Index(row)] = band;
+}
+
+void CellChunk::RenumberBands(const std::vector<std::uint8_t>& numbers)
+{
+    if (bands_)
+        std::for_each(bands_.get(), bands_.get() + rows_, [&](std::uint8_t& band) { band = numbers[band]; });
+}
+
+void CellChunk::MarkBands(std::vector<bool>& used) const
+{
+    if (bands_)
+        std::for_each(bands_.get(), bands_.get() + rows_, [&](std::uint8_t band) { used[band] = true; });
+}
+
+const CellExtra* CellChunk::Extra(std::int32_t row, std::int32_t col) const
+{
+    if (extras_.empty())
+        return nullptr;
+    const auto found = std::lower_bound(extras_.begin(), extras_.end(), std::pair(row, col), IsAhead);
+    return found != extras_.end() && found->Row == row && found->Col == col ? &*found : nullptr;
+}
+
+void CellChunk::SetExtra(const CellExtra& extra)
+{
+    const auto found = std::lower_bound(extras_.begin(), extras_.end(), std::pair(extra.Row, extra.Col), IsAhead);
+    const bool isThere = found != extras_.end() && found->Row == extra.Row && found->Col == extra.Col;
+    if (extra.IsPlain()) {
+        if (isThere)
+            extras_.erase(found);
+    } else if (isThere) {
+        *found = extra;
+    } else {
+        extras_.insert(found, extra);
+    }
+}
+
+bool CellChunk::ClearColors(std::int32_t row, std::int32_t firstCol, std::int32_t lastCol)
+{
+    bool any = false;
+    for (CellExtra& extra : extras_)
+        if (extra.Row == row && extra.Col >= firstCol && extra.Col <= lastCol && extra.HasColor) {
+            extra.HasColor = false;
+            extra.Color = 0;
+            any = true;
+        }
+    if (any)
+        std::erase_if(extras_, [](const CellExtra& extra) { return extra.IsPlain(); });
+    return any;
+}
+
+std::size_t CellChunk::Bytes() const
+{
+    const std::size_t cells = cells_ ? Index(capacity_) * Index(cols_) * sizeof(Cell) : 0;
+    return sizeof(CellChunk) + cells + (bands_ ? Index(capacity_) : 0) + arenaCapacity_ +
+           extras_.capacity() * sizeof(CellExtra);
+}
+
+} // namespace Tessellon
