@@ -1,7 +1,5 @@
 #include "engine/Failures.h"
 
-#include "platform/Failure.h"
-
 #include <array>
 #include <string>
 
@@ -48,9 +46,14 @@ std::u16string_view FailureText(std::int32_t number)
     return u"Application-defined error";
 }
 
+Failure FailureOf(std::int32_t number, std::u16string_view source)
+{
+    return {number, std::u16string(source), std::u16string(FailureText(number))};
+}
+
 void Fail(std::int32_t number, std::u16string_view source)
 {
-    throw Failure(number, std::u16string(source), std::u16string(FailureText(number)));
+    throw FailureOf(number, source);
 }
 
 } // namespace Tessellon

@@ -1,0 +1,96 @@
+#include "engine/runtime/CaseMap.h"
+
+#include "engine/runtime/CaseTable.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <span>
+
+namespace Tessellon {
+
+namespace {
+
+template <typename Range>
+const Range* RangeOf(std::span<const Range> ranges, char16_t unit)
+{
+    const auto behind = std::ranges::upper_bound(ranges, unit, {}, &Range::First);
+    if (behind == ranges.begin())
+        return nullptr;
+    const Range& range = *std::prev(behind);
+    return unit <= range.Last ? &range : nullptr;
+}
+
+char16_t Mapped(std::span<const CaseRange> ranges, char16_t unit)
+{
+    const CaseRange* range = RangeOf(ranges, unit);
+    if (range == nullptr || (unit - range->First) % range->Step != 0)
+        return unit;
+    return static_cast<char16_t>(unit + range->Distance);
+}
+
+constexpr bool IsPlainLower(char16_t unit)
+{
+    return unit >= u'a' && unit <= u'z';
+}
+
+constexpr bool IsPlainUpper(char16_t unit)
+{
+    return unit >= u'A' && unit <= u'Z';
+}
+
+} // namespace
+
+char16_t UpperCase(char16_t unit)
+{
+    if (unit < 0x80)
+        return IsPlainLower(unit) ? static_cast<char16_t>(unit - 0x20) : unit;
+    return Mapped(upperCaseRanges, unit);
+}
+
+char16_t LowerCase(char16_t unit)
+{
+    if (unit < 0x80)
+        return IsPlainUpper(unit) ? static_cast<char16_t>(unit + 0x20) : unit;
+    return Mapped(lowerCaseRanges, unit);
+}
+
+bool IsLetter(char16_t unit)
+{
+    if (unit < 0x80)
+        return IsPlainLower(unit) || IsPlainUpper(unit);
+    return RangeOf<LetterRange>(letterRanges, unit) != nullptr;
+}
+
+std::u16string UpperCase(std::u16string_view text)
+{
+    std::u16string out;
+    UpperCaseTo(out, text);
+    return out;
+}
+
+void UpperCaseTo(std::u16string& out, std::u16string_view text)
+{
+    const std::size_t start = out.size();
+    out.append(text);
+    std::transform(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(),
+                   out.begin() + static_cast<std::ptrdiff_t>(start), [](char16_t unit) { return UpperCase(unit); });
+}
+
+bool EqualIgnoringCase(std::u16string_view left, std::u16string_view right)
+{
+    return left.size() == right.size() && StartsWithIgnoringCase(left, right);
+}
+
+bool StartsWithIgnoringCase(std::u16string_view text, std::u16string_view start)
+{
+    if (text.size() < start.size())
+        return false;
+    for (std::size_t i = 0; i < start.size(); ++i) {
+        if (text[i] != start[i] && UpperCase(text[i]) != UpperCase(start[i]))
+            return false;
+    }
+    return true;
+}
+
+} // namespace Tessellon

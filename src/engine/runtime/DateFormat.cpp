@@ -1,0 +1,167 @@
+#include "engine/runtime/DateFormat.h"
+
+#include "engine/runtime/Calendar.h"
+#include "engine/runtime/DateTokens.h"
+
+#include <cmath>
+#include <cstddef>
+
+namespace Tessellon {
+
+namespace {
+
+bool CountsTwelveHours(std::u16string_view format)
+{
+    if (format.find_first_of(u"aA") == std::u16string_view::npos)
+        return false;
+    DateTokens tokens(format);
+    for (DateToken token; tokens.Next(token);) {
+        if (token.Kind >= DateSign::HalfUpper)
+            return true;
+    }
+    return false;
+}
+
+/// Writes one date. The locale's own formats are written inside it, and in them no other is looked up again.
+class DateWriter {
+public:
+    DateWriter(std::u16string& out, const Locale& locale, const CivilTime& fields)
+        : out_(out)
+        , locale_(locale)
+        , fields_(fields)
+    {
+    }
+
+    void Write(std::u16string_view format, bool inner = false)
+    {
+        const bool twelveHours = CountsTwelveHours(format);
+        DateTokens tokens(format);
+        for (DateToken token; tokens.Next(token);)
+            Write(token, twelveHours, inner);
+    }
+
+    void WriteGeneral()
+    {
+        const bool date = fields_.Year != 1899 || fields_.Month != 12 || fields_.Day != 30;
+        const bool time = fields_.Hour != 0 || fields_.Minute != 0 || fields_.Second != 0;
+        if (date)
+            Write(locale_.ShortDate, true);
+        if (date && time)
+            out_.push_back(u' ');
+        if (time || !date)
+            Write(locale_.LongTime, true);
+    }
+
+private:
+    void Write(const DateToken& token, bool twelveHours, bool inner);
+    void WriteWhole(const DateToken& token, std::u16string_view format, bool inner)
+    {
+        if (inner)
+            out_.append(token.Text);
+        else
+            Write(format, true);
+    }
+    void WriteNumber(int number, int figures)
+    {
+        char16_t text[4];
+        int size = 0;
+        for (; number > 0 || size < figures; number /= 10)
+            text[size++] = static_cast<char16_t>(u'0' + number % 10);
+        while (size > 0)
+            out_.push_back(text[--size]);
+    }
+    void WriteHour(bool twelveHours, int figures)
+    {
+        const int hour = twelveHours ? (fields_.Hour + 11) % 12 + 1 : fields_.Hour;
+        WriteNumber(hour, figures);
+    }
+    [[nodiscard]] const std::u16string& OfMonth(const std::array<std::u16string, 12>& names) const
+    {
+        return names[static_cast<std::size_t>(fields_.Month - 1)];
+    }
+    [[nodiscard]] const std::u16string& OfWeekday(const std::array<std::u16string, 7>& names) const
+    {
+        return names[static_cast<std::size_t>(WeekdayOf(fields_) - 1)];
+    }
+    [[nodiscard]] int Week() const
+    {
+        const CivilTime newYear{fields_.Year, 1, 1, 0, 0, 0};
+        return (DayOfYear(fields_) + WeekdayOf(newYear) - 2) / 7 + 1;
+    }
+
+    std::u16string& out_;
+    const Locale& locale_;
+    const CivilTime fields_;
+};
+
+void DateWriter::Write(const DateToken& token, bool twelveHours, bool inner)
+{
+    const bool morning = fields_.Hour < 12;
+    switch (token.Kind) {
+    case DateSign::Literal: out_.append(token.Text); break;
+    case DateSign::DateSeparator: out_.push_back(locale_.DateSeparator); break;
+    case DateSign::TimeSeparator: out_.push_back(locale_.TimeSeparator); break;
+    case DateSign::General:
+        if (inner)
+            out_.append(token.Text);
+        else
+            WriteGeneral();
+        break;
+    case DateSign::Day: WriteNumber(fields_.Day, 1); break;
+    case DateSign::DayTwo: WriteNumber(fields_.Day, 2); break;
+    case DateSign::DayNameShort: out_.append(OfWeekday(locale_.DayAbbreviations)); break;
+    case DateSign::DayName: out_.append(OfWeekday(locale_.DayNames)); break;
+    case DateSign::ShortDate: WriteWhole(token, locale_.ShortDate, inner); break;
+    case DateSign::LongDate: WriteWhole(token, locale_.LongDate, inner); break;
+    case DateSign::Weekday: WriteNumber(WeekdayOf(fields_), 1); break;
+    case DateSign::Week: WriteNumber(Week(), 1); break;
+    case DateSign::Month: WriteNumber(fields_.Month, 1); break;
+    case DateSign::MonthTwo: WriteNumber(fields_.Month, 2); break;
+    case DateSign::MonthNameShort: out_.append(OfMonth(locale_.MonthAbbreviations)); break;
+    case DateSign::MonthName: out_.append(OfMonth(locale_.MonthNames)); break;
+    case DateSign::Quarter: WriteNumber((fields_.Month + 2) / 3, 1); break;
+    case DateSign::DayOfYear: WriteNumber(DayOfYear(fields_), 1); break;
+    case DateSign::YearTwo: WriteNumber(fields_.Year % 100, 2); break;
+    case DateSign::Year: WriteNumber(fields_.Year, 4); break;
+    case DateSign::Hour: WriteHour(twelveHours, 1); break;
+    case DateSign::HourTwo: WriteHour(twelveHours, 2); break;
+    case DateSign::Minute: WriteNumber(fields_.Minute, 1); break;
+    case DateSign::MinuteTwo: WriteNumber(fields_.Minute, 2); break;
+    case DateSign::Second: WriteNumber(fields_.Second, 1); break;
+    case DateSign::SecondTwo: WriteNumber(fields_.Second, 2); break;
+    case DateSign::LongTime: WriteWhole(token, locale_.LongTime, inner); break;
+    case DateSign::HalfUpper: out_.append(morning ? u"AM" : u"PM"); break;
+    case DateSign::HalfLower: out_.append(morning ? u"am" : u"pm"); break;
+    case DateSign::HalfUpperShort: out_.push_back(morning ? u'A' : u'P'); break;
+    case DateSign::HalfLowerShort: out_.push_back(morning ? u'a' : u'p'); break;
+    case DateSign::HalfOfLocale: out_.append(morning ? locale_.Am : locale_.Pm); break;
+    }
+}
+
+} // namespace
+
+void AppendDate(std::u16string& out, double serial, std::u16string_view format, const Locale& locale)
+{
+    DateWriter(out, locale, FieldsOf(serial)).Write(format);
+}
+
+void AppendNamedDate(std::u16string& out, double serial, NamedFormat format, const Locale& locale)
+{
+    DateWriter writer(out, locale, FieldsOf(serial));
+    switch (format) {
+    case NamedFormat::LongDate: writer.Write(locale.LongDate, true); break;
+    case NamedFormat::MediumDate: writer.Write(u"dd-mmm-yy"); break;
+    case NamedFormat::ShortDate: writer.Write(locale.ShortDate, true); break;
+    case NamedFormat::LongTime: writer.Write(locale.LongTime, true); break;
+    case NamedFormat::MediumTime: writer.Write(u"hh:nn AMPM"); break;
+    case NamedFormat::ShortTime: writer.Write(locale.ShortTime, true); break;
+    default: writer.WriteGeneral(); break;
+    }
+}
+
+void AppendGeneralDate(std::u16string& out, double serial, const Locale& locale)
+{
+    DateWriter(out, locale, FieldsOf(serial)).WriteGeneral();
+}
+
+} // namespace Tessellon
