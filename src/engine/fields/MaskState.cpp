@@ -1,6 +1,7 @@
 #include "engine/fields/MaskState.h"
 
 #include "engine/fields/UnitPairs.h"
+#include "engine/runtime/RunTimeFunctions.h"
 #include "platform/RunTime.h"
 
 #include <algorithm>
@@ -8,15 +9,14 @@
 
 namespace Tessellon {
 
-MaskState::MaskState(const Locale& locale, RunTime& runTime)
-    : locale_(locale)
-    , runTime_(runTime)
+MaskState::MaskState(const RunTimeFunctions& functions)
+    : functions_(functions)
 {
 }
 
 bool MaskState::Mask(std::u16string_view mask)
 {
-    auto pattern = MaskPattern::Read(mask, locale_);
+    auto pattern = MaskPattern::Read(mask, functions_.GetLocale());
     if (!pattern)
         return false;
     const std::u16string text = mask.empty() ? std::u16string(Text()) : BareText();
@@ -78,7 +78,10 @@ std::u16string_view MaskState::FormattedText() const
     }
     const auto text = plain_.Text();
     const bool blanksAlone = !text.empty() && Trim(text).empty();
-    formatted_ = format_.empty() || blanksAlone ? text : runTime_.Format(Value::OfText(text), format_);
+    if (format_.empty() || blanksAlone)
+        return text;
+    formatted_.clear();
+    functions_.FormatTo(formatted_, Value::OfText(text), format_);
     return formatted_;
 }
 

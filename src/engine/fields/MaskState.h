@@ -12,7 +12,7 @@
 
 namespace Tessellon {
 
-class RunTime;
+class RunTimeFunctions;
 
 /// What became of a text that code wrote.
 enum class MaskWrite : std::uint8_t {
@@ -34,8 +34,8 @@ class MaskState {
 public:
     static constexpr char16_t PromptChar = u'_';
 
-    /// Both have to outlive the box.
-    MaskState(const Locale& locale, RunTime& runTime);
+    /// The functions, which have to outlive the box, give the locale of the separators and format a text without mask.
+    explicit MaskState(const RunTimeFunctions& functions);
 
     [[nodiscard]] std::u16string_view Mask() const { return mask_; }
     /// Puts the text's characters into the new mask's places from the left: a blank passes over a place that takes
@@ -113,8 +113,7 @@ private:
     bool Empty(std::size_t place);
     void MoveTo(std::size_t caret);
 
-    const Locale& locale_;
-    RunTime& runTime_;
+    const RunTimeFunctions& functions_;
     std::u16string mask_;
     std::u16string format_;
     bool promptInclude_ = true;

@@ -1,0 +1,516 @@
+#include "MaskFixture.h"
+
+namespace Tessellon {
+namespace {
+
+TEST(MaskedBox, MaskThatCannotBeRead_IsRefusedAndTheBoxKeepsWhatItHad)
+{
+    MaskBox box(u"##-##");
+    box.Typing(u"12").At(1);
+    EXPECT_FALSE(box.State.Mask(u"##\\"));
+    EXPECT_EQ(box.State.Mask(), u"##-##");
+    EXPECT_EQ(box.State.Text(), u"12-__");
+    EXPECT_EQ(box.State.Caret(), 1);
+}
+
+TEST(MaskedBox, TextWithPromptInclude_CarriesPromptsAndLiterals)
+{
+    MaskBox box(u"##-##");
+    EXPECT_EQ(box.State.Text(), u"__-__");
+    EXPECT_EQ(box.Typing(u"123").State.Text(), u"12-3_");
+}
+
+TEST(MaskedBox, TextWithoutPromptInclude_CarriesNeither)
+{
+    MaskBox box(u"##-##");
+    box.Typing(u"123");
+    box.State.PromptInclude(false);
+    EXPECT_EQ(box.State.Text(), u"123");
+    EXPECT_EQ(box.State.ShownText(), u"12-3_");
+}
+
+TEST(MaskedBox, PromptIncludeWritten_LeavesTheCaret)
+{
+    MaskBox box(u"##-##");
+    box.Typing(u"123");
+    box.State.PromptInclude(false);
+    EXPECT_EQ(box.State.Caret(), 4);
+}
+
+TEST(MaskedBox, FormattedText_HasLiteralsInPlaceAndBlanksForWhatIsNotFilled)
+{
+    MaskBox box(u"(##) ##");
+    EXPECT_EQ(box.State.FormattedText(), u"(  )   ");
+    EXPECT_EQ(box.Typing(u"123").State.FormattedText(), u"(12) 3 ");
+    box.State.PromptInclude(false);
+    EXPECT_EQ(box.State.FormattedText(), u"(12) 3 ");
+}
+
+TEST(MaskedBox, FormattedTextUnderAMask_LeavesTheFormatAside)
+{
+    MaskBox box(u"##");
+    box.State.Format(u"0.00");
+    EXPECT_EQ(box.Typing(u"1").State.FormattedText(), u"1 ");
+}
+
+TEST(MaskedBox, FormattedTextWithoutAMask_IsTheTextThroughTheFormat)
+{
+    MaskBox box;
+    box.State.Format(u"0.00");
+    EXPECT_EQ(box.State.Text(u"12"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.FormattedText(), u"12.00");
+    EXPECT_EQ(box.State.Text(), u"12");
+}
+
+TEST(MaskedBox, FormattedTextWithoutMaskAndFormat_IsTheText)
+{
+    MaskBox box;
+    EXPECT_EQ(box.State.Text(u"12"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.FormattedText(), u"12");
+}
+
+TEST(MaskedBox, FormattedTextOfBlanksAloneWithoutAMask_StaysAsItIs)
+{
+    MaskBox box;
+    box.State.Format(u"##-##");
+    EXPECT_EQ(box.State.Text(u"   "), MaskWrite::Changed);
+    EXPECT_EQ(box.State.FormattedText(), u"   ");
+}
+
+TEST(MaskedBox, WithoutAMask_IsAPlainTextField)
+{
+    MaskBox box;
+    EXPECT_EQ(box.State.Type(u'a'), MaskTyping::Taken);
+    EXPECT_EQ(box.State.Type(u'c'), MaskTyping::Taken);
+    box.State.Left();
+    EXPECT_EQ(box.State.Type(u'b'), MaskTyping::Taken);
+    EXPECT_EQ(box.State.Text(), u"abc");
+    EXPECT_EQ(box.State.Caret(), 2);
+    EXPECT_TRUE(box.State.Delete());
+    EXPECT_TRUE(box.State.Backspace());
+    EXPECT_EQ(box.State.Text(), u"a");
+    box.State.Home();
+    EXPECT_EQ(box.State.Caret(), 0);
+    box.State.End();
+    EXPECT_EQ(box.State.Caret(), 1);
+    box.State.Right();
+    EXPECT_EQ(box.State.Caret(), 1);
+    EXPECT_TRUE(box.State.Caret(9));
+    EXPECT_EQ(box.State.Caret(), 1);
+    EXPECT_FALSE(box.State.Caret(-1));
+}
+
+TEST(MaskedBox, MaxLengthLimitsTyping_ButNotUnderAMask)
+{
+    MaskBox plain;
+    plain.State.MaxLength(2);
+    EXPECT_EQ(plain.Typing(u"abc").State.Text(), u"ab");
+    EXPECT_EQ(plain.State.Type(u'c'), MaskTyping::Refused);
+    EXPECT_EQ(plain.State.Text(u"abcd"), MaskWrite::Changed);
+    EXPECT_EQ(plain.State.Text(), u"abcd");
+
+    MaskBox masked(u"####");
+    masked.State.MaxLength(2);
+    EXPECT_EQ(masked.Typing(u"1234").State.Text(), u"1234");
+}
+
+TEST(MaskedBox, TextWrittenThatDoesNotFit_IsRefusedAndTheBoxKeepsWhatItHad)
+{
+    for (const std::u16string_view text : {u"ab", u"12345", u"1x", u"12+34", u"12-345", u"12-34 "}) {
+        MaskBox box(u"##-##");
+        box.Typing(u"99").At(1);
+        EXPECT_EQ(box.State.Text(text), MaskWrite::DoesNotFit);
+        EXPECT_EQ(box.State.Text(), u"99-__");
+        EXPECT_EQ(box.State.Caret(), 1);
+    }
+}
+
+TEST(MaskedBox, TextWritten_MayCarryLiteralsAndPromptsOrNeither)
+{
+    MaskBox box(u"##-##");
+    EXPECT_EQ(box.State.Text(u"1234"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(), u"12-34");
+    EXPECT_EQ(box.State.Text(u"5_-6_"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(), u"5_-6_");
+    EXPECT_EQ(box.State.Text(u"78-9"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(), u"78-9_");
+    EXPECT_EQ(box.State.Text(u""), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(), u"__-__");
+}
+
+TEST(MaskedBox, TextWrittenWithoutPromptInclude_FillsPlacesAlone)
+{
+    MaskBox box(u"&-&");
+    box.State.PromptInclude(false);
+    EXPECT_EQ(box.State.Text(u"a-"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(), u"a-");
+    EXPECT_EQ(box.State.ShownText(), u"a--");
+    EXPECT_EQ(box.State.Text(u"a-b"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.ShownText(), u"a-b");
+}
+
+TEST(MaskedBox, PromptInATextWrittenWithoutPromptInclude_IsACharacter)
+{
+    MaskBox box(u"&#");
+    box.State.PromptInclude(false);
+    EXPECT_EQ(box.State.Text(u"_"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(), u"_");
+    EXPECT_EQ(box.State.FormattedText(), u"_ ");
+    EXPECT_EQ(box.State.Text(u"a_"), MaskWrite::DoesNotFit);
+}
+
+TEST(MaskedBox, BlankInAWrittenText_PassesOverAPlaceThatTakesNone)
+{
+    MaskBox box(u"?\?-##");
+    EXPECT_EQ(box.State.Text(u" a 1"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(), u"_a- 1");
+    EXPECT_EQ(box.State.FormattedText(), u" a- 1");
+}
+
+TEST(MaskedBox, TextThatBecomesAnother_PutsTheCaretToZero_AndOneThatDoesNotLeavesIt)
+{
+    MaskBox box(u"##-##");
+    box.Typing(u"123");
+    EXPECT_EQ(box.State.Text(u"12-3_"), MaskWrite::Same);
+    EXPECT_EQ(box.State.Text(u"12-3"), MaskWrite::Same);
+    EXPECT_EQ(box.State.Caret(), 4);
+    EXPECT_EQ(box.State.Text(u"124"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Caret(), 0);
+}
+
+TEST(MaskedBox, WrittenText_TakesTheCaseOfItsPlaces)
+{
+    MaskBox box(u">?\?<??");
+    EXPECT_EQ(box.State.Text(u"abCD"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(), u"ABcd");
+}
+
+TEST(MaskedBox, MaskWrittenOverAText_TakesItsCharactersFromTheLeft)
+{
+    MaskBox box;
+    EXPECT_EQ(box.State.Text(u"12052002"), MaskWrite::Changed);
+    EXPECT_TRUE(box.State.Mask(u"##/##/####"));
+    EXPECT_EQ(box.State.Text(), u"12/05/2002");
+    EXPECT_EQ(box.State.FormattedText(), u"12/05/2002");
+}
+
+TEST(MaskedBox, MaskWrittenOverAText_KeepsBlanksThatItsPlacesTake)
+{
+    MaskBox box;
+    EXPECT_EQ(box.State.Text(u"  152002"), MaskWrite::Changed);
+    EXPECT_TRUE(box.State.Mask(u"##/##/####"));
+    EXPECT_EQ(box.State.Text(), u"  /15/2002");
+}
+
+TEST(MaskedBox, MaskWrittenOverAText_LetsABlankPassOverAPlaceThatTakesNone)
+{
+    MaskBox box;
+    EXPECT_EQ(box.State.Text(u" a b"), MaskWrite::Changed);
+    EXPECT_TRUE(box.State.Mask(u"????"));
+    EXPECT_EQ(box.State.Text(), u"_a_b");
+}
+
+TEST(MaskedBox, MaskWrittenOverAText_DropsWhatDoesNotFitAndWhatIsLeftOver)
+{
+    MaskBox box;
+    EXPECT_EQ(box.State.Text(u"x1y2z34"), MaskWrite::Changed);
+    EXPECT_TRUE(box.State.Mask(u"#-##"));
+    EXPECT_EQ(box.State.Text(), u"1-23");
+}
+
+TEST(MaskedBox, MaskWrittenOverAText_DropsAPairOfSurrogatesWhole)
+{
+    MaskBox box;
+    EXPECT_EQ(box.State.Text(u"a😀b😀"), MaskWrite::Changed);
+    EXPECT_TRUE(box.State.Mask(u"&-&-&"));
+    EXPECT_EQ(box.State.Text(), u"a-b-_");
+    MaskBox other;
+    EXPECT_EQ(other.State.Text(u"a😀b😀"), MaskWrite::Changed);
+    EXPECT_TRUE(other.State.Mask(u"&&&&&"));
+    EXPECT_EQ(other.State.Text(), u"a😀b_");
+}
+
+TEST(MaskedBox, MaskWrittenOverAText_TurnsItsCase)
+{
+    MaskBox box;
+    EXPECT_EQ(box.State.Text(u"straße"), MaskWrite::Changed);
+    EXPECT_TRUE(box.State.Mask(u">??????"));
+    EXPECT_EQ(box.State.Text(), u"STRAßE");
+}
+
+TEST(MaskedBox, MaskWritten_PutsTheCaretToZero)
+{
+    MaskBox box(u"####");
+    box.Typing(u"12");
+    EXPECT_TRUE(box.State.Mask(u"####"));
+    EXPECT_EQ(box.State.Text(), u"12__");
+    EXPECT_EQ(box.State.Caret(), 0);
+    box.At(2);
+    EXPECT_TRUE(box.State.Mask(u""));
+    EXPECT_EQ(box.State.Caret(), 0);
+    box.At(2);
+    EXPECT_TRUE(box.State.Mask(u""));
+    EXPECT_EQ(box.State.Caret(), 0);
+}
+
+TEST(MaskedBox, MaskEmptied_LeavesWhatTextReads)
+{
+    MaskBox with(u"##-##");
+    with.Typing(u"123");
+    EXPECT_TRUE(with.State.Mask(u""));
+    EXPECT_EQ(with.State.Text(), u"12-3_");
+
+    MaskBox without(u"##-##");
+    without.Typing(u"123");
+    without.State.PromptInclude(false);
+    EXPECT_TRUE(without.State.Mask(u""));
+    EXPECT_EQ(without.State.Text(), u"123");
+}
+
+TEST(MaskedBox, MaskWrittenOverAnother_PutsOnTheCharactersFilledIn)
+{
+    MaskBox box(u"&&-&&");
+    box.Typing(u"ab-c");
+    EXPECT_TRUE(box.State.Mask(u"&/&/&/&"));
+    EXPECT_EQ(box.State.Text(), u"a/b/c/_");
+}
+
+TEST(MaskedBox, CellEntryOrder_LoadsTextThenMask)
+{
+    MaskBox box(u"##/##/####");
+    box.Typing(u"99");
+    box.State.PromptInclude(false);
+    EXPECT_TRUE(box.State.Mask(u""));
+    EXPECT_EQ(box.State.Text(u""), MaskWrite::Changed);
+    EXPECT_EQ(box.State.Text(u"12052002"), MaskWrite::Changed);
+    EXPECT_TRUE(box.State.Mask(u"##/##/####"));
+    box.State.PromptInclude(true);
+    EXPECT_EQ(box.State.Text(), u"12/05/2002");
+    EXPECT_EQ(box.State.Caret(), 0);
+}
+
+TEST(MaskedBox, CharacterThatDoesNotFit_IsNotTaken)
+{
+    MaskBox box(u"#?");
+    EXPECT_EQ(box.State.Type(u'x'), MaskTyping::Refused);
+    EXPECT_EQ(box.State.Caret(), 0);
+    EXPECT_EQ(box.State.Type(u'1'), MaskTyping::Taken);
+    EXPECT_EQ(box.State.Type(u'2'), MaskTyping::Refused);
+    EXPECT_EQ(box.State.Caret(), 1);
+    EXPECT_EQ(box.State.Text(), u"1_");
+}
+
+TEST(MaskedBox, CharacterBehindTheLastPlace_IsNotTaken)
+{
+    MaskBox box(u"#)");
+    box.Typing(u"1");
+    EXPECT_EQ(box.State.Type(u'2'), MaskTyping::Refused);
+    EXPECT_EQ(box.State.Caret(), 1);
+    EXPECT_EQ(box.State.Type(u')'), MaskTyping::Passed);
+    EXPECT_EQ(box.State.Caret(), 2);
+    EXPECT_EQ(box.State.Type(u')'), MaskTyping::Refused);
+    EXPECT_EQ(box.State.Caret(), 2);
+}
+
+TEST(MaskedBox, Typing_ReplacesThePlaceAtTheCaretAndShiftsNothing)
+{
+    MaskBox box(u"####");
+    box.Typing(u"1234").At(1);
+    EXPECT_EQ(box.State.Type(u'9'), MaskTyping::Taken);
+    EXPECT_EQ(box.State.Text(), u"1934");
+    EXPECT_EQ(box.State.Caret(), 2);
+}
+
+TEST(MaskedBox, BehindATypedPlace_TheCaretStandsDirectlyBehindIt_AheadOfTheLiteral)
+{
+    MaskBox box(u"##-##");
+    EXPECT_EQ(box.Typing(u"12").State.Caret(), 2);
+    EXPECT_EQ(box.Typing(u"3").State.Caret(), 4);
+}
+
+TEST(MaskedBox, LiteralTypedWhereItStands_IsPassed)
+{
+    MaskBox box(u"##-##");
+    box.Typing(u"12");
+    EXPECT_EQ(box.State.Type(u'-'), MaskTyping::Passed);
+    EXPECT_EQ(box.State.Caret(), 3);
+    EXPECT_EQ(box.State.Text(), u"12-__");
+}
+
+TEST(MaskedBox, CharacterTypedOnALiteral_IsTriedAtTheNextPlace)
+{
+    MaskBox box(u"(-)#");
+    EXPECT_EQ(box.State.Type(u'7'), MaskTyping::Taken);
+    EXPECT_EQ(box.State.Text(), u"(-)7");
+    EXPECT_EQ(box.State.Caret(), 4);
+}
+
+TEST(MaskedBox, CharacterTypedOnALiteralThatDoesNotFitBehindIt_LeavesTheCaret)
+{
+    MaskBox box(u"(-)#");
+    EXPECT_EQ(box.State.Type(u'x'), MaskTyping::Refused);
+    EXPECT_EQ(box.State.Type(u'-'), MaskTyping::Refused);
+    EXPECT_EQ(box.State.Caret(), 0);
+}
+
+TEST(MaskedBox, LiteralThatWouldFitAPlace_IsTypedIntoIt)
+{
+    MaskBox box(u"&-&");
+    EXPECT_EQ(box.State.Type(u'-'), MaskTyping::Taken);
+    EXPECT_EQ(box.State.Type(u'-'), MaskTyping::Passed);
+    EXPECT_EQ(box.State.Type(u'-'), MaskTyping::Taken);
+    EXPECT_EQ(box.State.FormattedText(), u"---");
+}
+
+TEST(MaskedBox, LocalesSeparator_IsTheLiteralThatIsTyped)
+{
+    Locale locale = Locale::English();
+    locale.DateSeparator = u'.';
+    MaskBox box(u"##/##", locale);
+    EXPECT_EQ(box.Typing(u"12.3").State.Text(), u"12.3_");
+    MaskBox other(u"##/##", locale);
+    other.Typing(u"12");
+    EXPECT_EQ(other.State.Type(u'/'), MaskTyping::Refused);
+}
+
+TEST(MaskedBox, TypedCharacter_TakesTheCaseOfItsPlace)
+{
+    MaskBox box(u">??\?<???");
+    EXPECT_EQ(box.Typing(u"aßäAÄß").State.Text(), u"AßÄaäß");
+}
+
+TEST(MaskedBox, TypedBlank_FillsAPlaceThatTakesOne_AndIsRefusedElsewhere)
+{
+    MaskBox box(u"#A");
+    EXPECT_EQ(box.State.Type(u' '), MaskTyping::Taken);
+    EXPECT_EQ(box.State.Text(), u" _");
+    EXPECT_EQ(box.State.Type(u' '), MaskTyping::Refused);
+    EXPECT_EQ(box.State.Caret(), 1);
+}
+
+TEST(MaskedBox, ControlCharacters_AreNotTyped)
+{
+    MaskBox box(u"CC");
+    for (const char16_t unit : {u'\r', u'\n', u'\t', u'\b', u'\x1B', u'\x03'})
+        EXPECT_EQ(box.State.Type(unit), MaskTyping::Refused);
+    EXPECT_EQ(box.State.Text(), u"__");
+}
+
+TEST(MaskedBox, Backspace_GoesBackOverLiteralsAndEmptiesThePlaceBeforeThem)
+{
+    MaskBox box(u"##--##");
+    box.Typing(u"1234").At(4);
+    EXPECT_TRUE(box.State.Backspace());
+    EXPECT_EQ(box.State.Text(), u"1_--34");
+    EXPECT_EQ(box.State.Caret(), 1);
+    EXPECT_TRUE(box.State.Backspace());
+    EXPECT_EQ(box.State.Text(), u"__--34");
+    EXPECT_FALSE(box.State.Backspace());
+    EXPECT_EQ(box.State.Caret(), 0);
+}
+
+TEST(MaskedBox, BackspaceWithNoPlaceBefore_DoesNothing)
+{
+    MaskBox box(u"(##");
+    box.Typing(u"1").At(1);
+    EXPECT_FALSE(box.State.Backspace());
+    EXPECT_EQ(box.State.Caret(), 1);
+    EXPECT_EQ(box.State.Text(), u"(1_");
+}
+
+TEST(MaskedBox, BackspaceOnAnEmptyPlace_MovesTheCaretAlone)
+{
+    MaskBox box(u"##");
+    box.At(2);
+    EXPECT_FALSE(box.State.Backspace());
+    EXPECT_EQ(box.State.Caret(), 1);
+}
+
+TEST(MaskedBox, Delete_EmptiesThePlaceAtTheCaretAndShiftsNothing)
+{
+    MaskBox box(u"##-##");
+    box.Typing(u"1234").At(1);
+    EXPECT_TRUE(box.State.Delete());
+    EXPECT_EQ(box.State.Text(), u"1_-34");
+    EXPECT_EQ(box.State.Caret(), 1);
+    EXPECT_FALSE(box.State.Delete());
+}
+
+TEST(MaskedBox, DeleteOnALiteralAndAtTheEnd_DoesNothing)
+{
+    MaskBox box(u"##-##");
+    box.Typing(u"1234").At(2);
+    EXPECT_FALSE(box.State.Delete());
+    box.At(5);
+    EXPECT_FALSE(box.State.Delete());
+    EXPECT_EQ(box.State.Text(), u"12-34");
+}
+
+TEST(MaskedBox, ArrowsStopAtEachPosition)
+{
+    MaskBox box(u"#--#");
+    for (const std::int32_t caret : {1, 2, 3, 4, 4}) {
+        box.State.Right();
+        EXPECT_EQ(box.State.Caret(), caret);
+    }
+    for (const std::int32_t caret : {3, 2, 1, 0, 0}) {
+        box.State.Left();
+        EXPECT_EQ(box.State.Caret(), caret);
+    }
+}
+
+TEST(MaskedBox, HomeAndEnd_GoToTheEnds)
+{
+    MaskBox box(u"(#)");
+    box.State.End();
+    EXPECT_EQ(box.State.Caret(), 3);
+    box.State.Home();
+    EXPECT_EQ(box.State.Caret(), 0);
+}
+
+TEST(MaskedBox, CaretAboveTheLength_IsTheLength_AndBelowZeroIsRefused)
+{
+    MaskBox box(u"##-##");
+    EXPECT_TRUE(box.State.Caret(99));
+    EXPECT_EQ(box.State.Caret(), 5);
+    EXPECT_FALSE(box.State.Caret(-1));
+    EXPECT_EQ(box.State.Caret(), 5);
+}
+
+TEST(MaskedBox, PairOfSurrogates_FillsTwoPlacesAndIsPassedAndRemovedAsOne)
+{
+    MaskBox box(u"&&&&");
+    EXPECT_EQ(box.Typing(u"a😀b").State.Text(), u"a😀b");
+    box.At(1);
+    box.State.Right();
+    EXPECT_EQ(box.State.Caret(), 3);
+    EXPECT_TRUE(box.State.Backspace());
+    EXPECT_EQ(box.State.Text(), u"a__b");
+    EXPECT_EQ(box.State.Caret(), 1);
+    EXPECT_TRUE(box.Typing(u"😀").At(2).State.Delete());
+    EXPECT_EQ(box.State.Text(), u"a__b");
+    EXPECT_EQ(box.State.Caret(), 1);
+}
+
+TEST(MaskedBox, PairOfSurrogatesWithRoomForOneHalf_IsNotTakenAtAll)
+{
+    for (const std::u16string_view mask : {u"&", u"&-&", u"C#"}) {
+        MaskBox box(mask);
+        EXPECT_EQ(box.State.Type(0xD83D), MaskTyping::Refused);
+        EXPECT_EQ(box.State.Type(0xDE00), MaskTyping::Refused);
+        EXPECT_EQ(box.State.Caret(), 0);
+    }
+}
+
+TEST(MaskedBox, CharacterTypedOverHalfAPair_LeavesNoHalfBehind)
+{
+    MaskBox box(u"&&&");
+    EXPECT_EQ(box.Typing(u"😀b").At(0).Typing(u"x").State.Text(), u"x_b");
+    MaskBox other(u"&&&");
+    EXPECT_EQ(other.Typing(u"😀b").At(1).Typing(u"x").State.Text(), u"_xb");
+    MaskBox same(u"&&&");
+    EXPECT_EQ(same.Typing(u"😀b").At(0).Typing(u"😁").State.Text(), u"😁b");
+}
+
+} // namespace
+} // namespace Tessellon
