@@ -230,6 +230,7 @@ private:
     void CopySelection();
 
     GridSurroundings& surroundings_;
+    Font font_; ///< Ahead of the sizes that come from it.
     CellStore cells_;
     Axis rows_;
     Axis cols_;
@@ -241,7 +242,6 @@ private:
     std::int32_t topRow_ = fixedRows;
     std::int32_t leftCol_ = fixedCols;
 
-    Font font_;
     bool isEnabled_ = true;
     bool redraw_ = true;
     std::int16_t fillStyle_ = 0;

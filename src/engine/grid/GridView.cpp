@@ -191,6 +191,9 @@ void GridEngine::Invalidate(const GridRectangle& part)
 
 void GridEngine::InvalidateCells(const GridSelection& cells)
 {
+    const GridSpan visible = VisibleRows();
+    if (cells.FirstRow() >= fixedRows && (cells.FirstRow() > visible.Last || cells.LastRow() < visible.First))
+        return;
     const SightCut across = ColSight().Cut(cells.FirstCol(), cells.LastCol());
     const SightCut down = RowSight().Cut(cells.FirstRow(), cells.LastRow());
     Invalidate({across.Begin, down.Begin, across.End - across.Begin, down.End - down.Begin});
