@@ -1,0 +1,67 @@
+#!/usr/bin/env bash
+# tools/setup.sh program|test: installs what is missing of the Debian packages that the program, or its tests, are built with.
+# Ends with status 2 where it may not install or the installing fails.
+set -euo pipefail
+
+program=(
+    cmake             # configures the build
+    ninja-build       # runs it
+    g++               # C++20
+    libsqlite3-dev    # the database of the example, and its recordset
+    qt6-base-dev      # the desktop platform
+    fonts-dejavu-core # a font to draw with where no desktop is installed
+)
+test=(
+    libgtest-dev      # the tests of behaviour
+    librapidcheck-dev # the tests of properties
+    xvfb              # a display for the tests of real windows
+    openbox           # their window manager: without one the focus never comes back from a box
+    xdotool           # their keyboard and mouse
+    clang-format      # the layout of the sources
+)
+
+case "${1-}" in
+program) wanted=("${program[@]}") ;;
+test) wanted=("${program[@]}" "${test[@]}") ;;
+*)
+    echo "tools/setup.sh: say 'program' or 'test'" >&2
+    exit 2
+    ;;
+esac
+
+if ! command -v dpkg-query >/dev/null; then
+    # No Debian: the build says itself what it cannot find.
+    exit 0
+fi
+
+installed=$(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' "${wanted[@]}" 2>/dev/null || true)
+missing=()
+for package in "${wanted[@]}"; do
+    grep -qxF "$package installed" <<<"$installed" || missing+=("$package")
+done
+if ((${#missing[@]} == 0)); then
+    exit 0
+fi
+
+if [[ $(id -u) == 0 ]]; then
+    as_root=()
+elif command -v sudo >/dev/null && { sudo -n true 2>/dev/null || sudo -v; }; then
+    as_root=(sudo)
+else
+    {
+        echo "These packages are missing, and installing them takes an administrator. Type this, then try again:"
+        echo "su -c 'apt-get update && apt-get install -y --no-install-recommends ${missing[*]}'"
+    } >&2
+    exit 2
+fi
+
+echo "Installing: ${missing[*]}" >&2
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+if ! { "${as_root[@]}" apt-get update &&
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
+        -o DPkg::Lock::Timeout=120 "${missing[@]}"; } >"$log" 2>&1 </dev/null; then
+    cat "$log" >&2
+    echo "The packages could not be installed: ${missing[*]}" >&2
+    exit 2
+fi
