@@ -2,6 +2,8 @@
 # tools/build.sh PRESET TARGET...: builds these targets; tools/build.sh PRESET --tests: everything, with the tests.
 # Configures only when needed. Says what it is doing on standard error, and shows the build's own words only when it fails.
 set -euo pipefail
+# A replay may come by standard input.
+exec </dev/null
 
 root=$(cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.." && pwd)
 cd "$root"
