@@ -25,12 +25,12 @@ public:
     void GrabsFocus(bool grabs) { grabsFocus_ = grabs; }
 
     // What code does.
-    void Set(InputControl& control);          ///< A hidden or disabled editor: failure 5.
-    void GiveBack();                          ///< The component asks for it back while it is leaving.
-    void TakenDown(InputControl& control);    ///< The control was just hidden or disabled.
+    void Set(InputControl& control); ///< A hidden or disabled editor: failure 5.
+    void GiveBack(); ///< The component asks for it back while it is leaving.
+    void TakenDown(InputControl& control); ///< The control was just hidden or disabled.
     void TakenDownAgain(InputControl& control); ///< The same in silence, behind a handler that brought it up again.
-    void Forget(InputControl& control);       ///< The control is about to go for good.
-    void GridEnabled();                       ///< A focus that is owed to the grid is given.
+    void Forget(InputControl& control); ///< The control is about to go for good.
+    void GridEnabled(); ///< A focus that is owed to the grid is given.
 
     // What the user does.
     bool Press(InputControl& control); ///< False: the press is lost.
@@ -50,7 +50,7 @@ private:
     InputControl& grid_;
     Frame frame_;
     InputControl* holder_ = nullptr;
-    InputControl* noted_ = nullptr;    ///< Who is to have it as soon as it may be given.
+    InputControl* noted_ = nullptr; ///< Who is to have it as soon as it may be given.
     InputControl* heldLast_ = nullptr; ///< Who had it when the window went behind another.
     bool inside_ = false;
     bool windowInFront_ = true;

@@ -31,9 +31,9 @@ public:
 
     // Editors.
     virtual void Caret(std::int32_t position) = 0; ///< Of the focused text, masked, rich text or combo box.
-    virtual void Select(std::int32_t item) = 0;    ///< Of the focused list or combo box, from 0.
-    virtual void Toggle() = 0;                     ///< The focused check box.
-    virtual void Push() = 0;                       ///< The button that is up.
+    virtual void Select(std::int32_t item) = 0; ///< Of the focused list or combo box, from 0.
+    virtual void Toggle() = 0; ///< The focused check box.
+    virtual void Push() = 0; ///< The button that is up.
     virtual void Pick(double date, bool withTime) = 0;
     virtual void Over(OverEvent event, float x, float y) = 0;
 

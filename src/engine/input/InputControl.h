@@ -30,7 +30,7 @@ public:
     /// A character is typed, behind KeyPress.
     virtual void TakeUp(char16_t character, std::int16_t shift) = 0;
     /// The focus has come, ahead of GotFocus.
-    virtual void FocusArrived() { }
+    virtual void FocusArrived() {}
 };
 
 } // namespace Tessellon
