@@ -353,18 +353,24 @@ void CellChunk::SetExtra(const CellExtra& extra)
     }
 }
 
+bool CellChunk::HasColors(std::int32_t row, std::int32_t firstCol, std::int32_t lastCol) const
+{
+    return std::ranges::any_of(extras_, [&](const CellExtra& extra) {
+        return extra.HasColor && extra.Row == row && extra.Col >= firstCol && extra.Col <= lastCol;
+    });
+}
+
 bool CellChunk::ClearColors(std::int32_t row, std::int32_t firstCol, std::int32_t lastCol)
 {
-    bool any = false;
+    if (!HasColors(row, firstCol, lastCol))
+        return false;
     for (CellExtra& extra : extras_)
-        if (extra.Row == row && extra.Col >= firstCol && extra.Col <= lastCol && extra.HasColor) {
+        if (extra.Row == row && extra.Col >= firstCol && extra.Col <= lastCol) {
             extra.HasColor = false;
             extra.Color = 0;
-            any = true;
         }
-    if (any)
-        std::erase_if(extras_, [](const CellExtra& extra) { return extra.IsPlain(); });
-    return any;
+    std::erase_if(extras_, [](const CellExtra& extra) { return extra.IsPlain(); });
+    return true;
 }
 
 std::size_t CellChunk::Bytes() const

@@ -68,6 +68,7 @@ public:
 
     [[nodiscard]] const CellExtra* Extra(std::int32_t row, std::int32_t col) const;
     void SetExtra(const CellExtra& extra); ///< One that has become plain goes.
+    [[nodiscard]] bool HasColors(std::int32_t row, std::int32_t firstCol, std::int32_t lastCol) const;
     /// Takes the own colours from the cells of a row; true if there were any.
     bool ClearColors(std::int32_t row, std::int32_t firstCol, std::int32_t lastCol);
 

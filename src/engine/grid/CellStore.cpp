@@ -248,6 +248,9 @@ bool CellStore::SetColor(std::int32_t row, std::int32_t firstCol, std::int32_t l
     std::int32_t rowInChunk = 0;
     CellChunk& chunk = Writable(row, rowInChunk);
     const Band& old = bands_[chunk.Band(rowInChunk)];
+    if (old.Color == color && old.FirstCol <= firstCol && old.LastCol >= lastCol &&
+        !chunk.HasColors(rowInChunk, firstCol, lastCol))
+        return false;
     const bool isCovered = chunk.Band(rowInChunk) == 0 || (old.FirstCol >= firstCol && old.LastCol <= lastCol);
     if (isCovered) {
         if (const std::uint8_t number = BandNumber({color, firstCol, lastCol}); number != 0) {

@@ -72,7 +72,6 @@ void GridEngine::Rows(std::int32_t rows)
     const std::int32_t before = rows_.Count();
     if (rows == before)
         return;
-    InvalidateFromRow(std::min(rows, before));
     cells_.SetRows(rows);
     rows_.SetCount(rows);
     ShapeChanged();
@@ -90,7 +89,6 @@ void GridEngine::Cols(std::int32_t cols)
     const std::int32_t before = cols_.Count();
     if (cols == before)
         return;
-    InvalidateFromCol(std::min(cols, before));
     cells_.SetCols(cols);
     cols_.SetCount(cols);
     alignments_.resize(static_cast<std::size_t>(cols), leftAligned);

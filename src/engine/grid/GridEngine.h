@@ -7,6 +7,7 @@
 #include "engine/grid/Sight.h"
 #include "platform/Grid.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -158,6 +159,7 @@ public:
 
     /// The toolkit has painted, of itself, all that was invalidated.
     void Painted() { isPaintDue_ = false; }
+    [[nodiscard]] std::size_t Bytes() const { return cells_.Bytes(); } ///< What the cells hold of memory.
     /// The metrics of the font are others (another screen): asks for the default sizes again.
     void FontMetricsChanged();
 
