@@ -27,24 +27,27 @@ bool HeadlessHand::IsThere(std::int32_t row, std::int32_t col) const
     return row >= 0 && col >= 0 && row < grid.Rows() && col < grid.Cols();
 }
 
+bool HeadlessHand::ClickCell(GridCell cell)
+{
+    GridEngine& grid = platform_->TheGrid();
+    if (!IsThere(cell.Row, cell.Col) || !grid.Enabled())
+        return false;
+    grid.ScrollIntoView(cell);
+    if (grid.PressCell(cell))
+        grid.ReleaseHere();
+    return true;
+}
+
 void HeadlessHand::Click(std::int32_t row, std::int32_t col)
 {
-    InFront([&] {
-        GridEngine& grid = platform_->TheGrid();
-        if (!IsThere(row, col) || !grid.Enabled())
-            return;
-        grid.ScrollIntoView({row, col});
-        if (grid.PressCell({row, col}))
-            grid.ReleaseHere();
-    });
+    InFront([&] { ClickCell({row, col}); });
 }
 
 void HeadlessHand::DoubleClick(std::int32_t row, std::int32_t col)
 {
-    Click(row, col);
     InFront([&] {
         GridEngine& grid = platform_->TheGrid();
-        if (IsThere(row, col) && grid.DoublePressCell({row, col}))
+        if (ClickCell({row, col}) && IsThere(row, col) && grid.DoublePressCell({row, col}))
             grid.ReleaseHere();
     });
 }

@@ -47,6 +47,7 @@ private:
     void InFront(const Action& action);
     [[nodiscard]] bool IsInSheet(float x, float y) const;
     [[nodiscard]] bool IsThere(std::int32_t row, std::int32_t col) const;
+    bool ClickCell(GridCell cell); ///< False for a cell that is not there, or a grid that takes no press.
     template <class Control>
     std::shared_ptr<Control> Focused() const;
 
