@@ -1,6 +1,7 @@
 #include "recordset/sqlite/Moment.h"
 
-#include <chrono>
+#include "engine/runtime/Calendar.h"
+
 #include <cmath>
 #include <cstdint>
 
@@ -10,14 +11,11 @@ namespace {
 
 constexpr std::int64_t MicrosecondsPerDay = 86'400'000'000;
 constexpr std::int64_t DaysFromSerialZeroTo1970 = 25'569;
-constexpr std::int64_t FirstDay = -657'434; // 1 January 100
-constexpr std::int64_t LastDay = 2'958'465; // 31 December 9999
 constexpr double JulianDayOfSerialZero = 2'415'018.5;
 constexpr double LastJulianDay = 5'373'484.5;
 constexpr double MillisecondsPerDay = 86'400'000.0;
 
-/// From microseconds behind 30 December 1899. Ahead of that day the fraction still counts the time from midnight on, so
-/// it grows away from zero.
+/// From microseconds behind 30 December 1899.
 std::optional<double> Serial(std::int64_t microseconds)
 {
     std::int64_t day = microseconds / MicrosecondsPerDay;
@@ -26,10 +24,10 @@ std::optional<double> Serial(std::int64_t microseconds)
         rest += MicrosecondsPerDay;
         --day;
     }
-    if (day < FirstDay || day > LastDay)
+    if (!IsLegalSerial(static_cast<double>(day)))
         return std::nullopt;
-    const double fraction = static_cast<double>(rest) / static_cast<double>(MicrosecondsPerDay);
-    return day < 0 ? static_cast<double>(day) - fraction : static_cast<double>(day) + fraction;
+    return SerialWithTime(static_cast<double>(day),
+                          static_cast<double>(rest) / static_cast<double>(MicrosecondsPerDay));
 }
 
 class Reader {
@@ -82,11 +80,9 @@ std::optional<std::int64_t> ReadDay(Reader& reader)
     const int day = reader.Number(2);
     if (day < 0)
         return std::nullopt;
-    const std::chrono::year_month_day date(std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
-                                           std::chrono::day(static_cast<unsigned>(day)));
-    if (!date.ok())
+    if (!IsLegalDate(year, month, day))
         return std::nullopt;
-    return std::chrono::sys_days(date).time_since_epoch().count() + DaysFromSerialZeroTo1970;
+    return static_cast<std::int64_t>(SerialOf({year, month, day, 0, 0, 0}));
 }
 
 /// "HH:MM" as minutes.
@@ -140,7 +136,7 @@ std::optional<double> SerialOfText(std::u16string_view text)
     std::optional<std::int64_t> day = 0;
     if (!reader.Sees(u':', 2)) {
         day = ReadDay(reader);
-        if (!day || *day < FirstDay)
+        if (!day)
             return std::nullopt;
         if (reader.AtEnd())
             return static_cast<double>(*day);

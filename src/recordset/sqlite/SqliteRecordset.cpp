@@ -1,6 +1,6 @@
 #include "recordset/sqlite/SqliteRecordset.h"
 
-#include "platform/Failure.h"
+#include "engine/Failures.h"
 #include "recordset/sqlite/Moment.h"
 #include "recordset/sqlite/SqliteDatabase.h"
 #include "recordset/sqlite/StoredText.h"
@@ -22,10 +22,8 @@ namespace {
 
 constexpr int WalksOfOneSnapshot = 2;
 
-[[noreturn]] void FailBehindTheLast()
-{
-    throw Failure(3021, u"Recordset", u"Either BOF or EOF is True");
-}
+constexpr std::int32_t SubscriptOutOfRange = 9;
+constexpr std::int32_t NoCurrentRecord = 3021;
 
 FieldShape ShapeOfStorage(int storage)
 {
@@ -83,14 +81,14 @@ void SqliteRecordset::MoveFirst()
         return;
     Arrive();
     if (place_ == Place::End)
-        FailBehindTheLast();
+        Fail(NoCurrentRecord, u"Recordset");
 }
 
 void SqliteRecordset::MoveNext()
 {
     Arrive();
     if (place_ == Place::End)
-        FailBehindTheLast();
+        Fail(NoCurrentRecord, u"Recordset");
     Step();
 }
 
@@ -118,7 +116,7 @@ Value SqliteRecordset::FieldValue(std::int32_t field)
 {
     Arrive();
     if (place_ == Place::End)
-        FailBehindTheLast();
+        Fail(NoCurrentRecord, u"Recordset");
     CheckField(field);
 
     const Reading reading = fields_[static_cast<std::size_t>(field)].As;
@@ -218,7 +216,7 @@ void SqliteRecordset::Describe()
 void SqliteRecordset::CheckField(std::int32_t field) const
 {
     if (field < 0 || static_cast<std::size_t>(field) >= fields_.size())
-        throw Failure(9, u"Recordset", u"Subscript out of range");
+        Fail(SubscriptOutOfRange, u"Recordset");
 }
 
 std::u16string_view SqliteRecordset::Characters(sqlite3_value* value)
