@@ -29,36 +29,20 @@ char16_t Mapped(std::span<const CaseRange> ranges, char16_t unit)
     return static_cast<char16_t>(unit + range->Distance);
 }
 
-constexpr bool IsPlainLower(char16_t unit)
-{
-    return unit >= u'a' && unit <= u'z';
-}
-
-constexpr bool IsPlainUpper(char16_t unit)
-{
-    return unit >= u'A' && unit <= u'Z';
-}
-
 } // namespace
 
-char16_t UpperCase(char16_t unit)
+char16_t UpperCaseByTable(char16_t unit)
 {
-    if (unit < 0x80)
-        return IsPlainLower(unit) ? static_cast<char16_t>(unit - 0x20) : unit;
     return Mapped(upperCaseRanges, unit);
 }
 
-char16_t LowerCase(char16_t unit)
+char16_t LowerCaseByTable(char16_t unit)
 {
-    if (unit < 0x80)
-        return IsPlainUpper(unit) ? static_cast<char16_t>(unit + 0x20) : unit;
     return Mapped(lowerCaseRanges, unit);
 }
 
-bool IsLetter(char16_t unit)
+bool IsLetterByTable(char16_t unit)
 {
-    if (unit < 0x80)
-        return IsPlainLower(unit) || IsPlainUpper(unit);
     return RangeOf<LetterRange>(letterRanges, unit) != nullptr;
 }
 

@@ -1,9 +1,10 @@
 #include "engine/runtime/DateFormat.h"
 
 #include "engine/runtime/Calendar.h"
+#include "engine/runtime/CaseMap.h"
 #include "engine/runtime/DateTokens.h"
 
-#include <cmath>
+#include <algorithm>
 #include <cstddef>
 
 namespace Tessellon {
@@ -12,7 +13,7 @@ namespace {
 
 bool CountsTwelveHours(std::u16string_view format)
 {
-    if (format.find_first_of(u"aA") == std::u16string_view::npos)
+    if (std::ranges::none_of(format, [](char16_t unit) { return UpperCase(unit) == u'A'; }))
         return false;
     DateTokens tokens(format);
     for (DateToken token; tokens.Next(token);) {
@@ -63,12 +64,12 @@ private:
     }
     void WriteNumber(int number, int figures)
     {
-        char16_t text[4];
-        int size = 0;
-        for (; number > 0 || size < figures; number /= 10)
-            text[size++] = static_cast<char16_t>(u'0' + number % 10);
-        while (size > 0)
-            out_.push_back(text[--size]);
+        constexpr int mostFigures = 4;
+        char16_t text[mostFigures];
+        int start = mostFigures;
+        for (; number > 0 || mostFigures - start < figures; number /= 10)
+            text[--start] = static_cast<char16_t>(u'0' + number % 10);
+        out_.append(text + start, static_cast<std::size_t>(mostFigures - start));
     }
     void WriteHour(bool twelveHours, int figures)
     {

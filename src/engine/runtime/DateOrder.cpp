@@ -25,6 +25,20 @@ std::u16string_view FormatBehindName(std::u16string_view format, const Locale& l
     }
 }
 
+/// The date picker, which has the same format, takes what stands in single quotes for text: no part is in it.
+std::u16string WithoutPickerTexts(std::u16string_view format)
+{
+    std::u16string out;
+    while (true) {
+        const std::size_t open = format.find(u'\'');
+        const std::size_t close = open == std::u16string_view::npos ? open : format.find(u'\'', open + 1);
+        out.append(format.substr(0, close == std::u16string_view::npos ? close : open));
+        if (close == std::u16string_view::npos)
+            return out;
+        format.remove_prefix(close + 1);
+    }
+}
+
 void AddParts(DateParts& parts, std::u16string_view format, const Locale& locale, bool inner)
 {
     DateTokens tokens(format);
@@ -75,7 +89,7 @@ DateParts DatePartsOf(std::u16string_view format, const Locale& locale)
 
 DateOrdering::DateOrdering(std::u16string_view format, const Locale& locale)
 {
-    const DateParts parts = DatePartsOf(format, locale);
+    const DateParts parts = DatePartsOf(WithoutPickerTexts(format), locale);
     const bool day = parts.Has(DatePart::Day);
     const bool month = parts.Has(DatePart::Month);
     const bool year = parts.Has(DatePart::Year);

@@ -57,6 +57,25 @@ struct ReadParts {
     [[nodiscard]] bool HasDate() const { return Count > 0 || Month > 0; }
 };
 
+/// The quick way for what most texts are: three numbers with marks between them and nothing else.
+bool ReadThreeNumbers(std::u16string_view text, ReadParts& parts)
+{
+    constexpr int mostFigures = 4;
+    ReadFigures number;
+    for (const char16_t unit : text) {
+        if (IsDigit(unit) && number.Figures < mostFigures) {
+            number = {number.Value * 10 + (unit - u'0'), number.Figures + 1};
+        } else if ((unit == u'/' || unit == u'-' || unit == u'.') && number.Figures > 0 && parts.Count < 2) {
+            parts.Numbers[parts.Count++] = number;
+            number = {};
+        } else {
+            return false;
+        }
+    }
+    parts.Numbers[2] = number;
+    return parts.Count++ == 2 && number.Figures > 0;
+}
+
 /// Cuts a text into its parts.
 class PartReader {
 public:
@@ -195,6 +214,10 @@ bool PartReader::ReadHalf(int& hour)
 {
     const std::u16string_view start = rest_;
     SkipBlanks();
+    if (rest_.empty() || !IsLetter(rest_.front())) {
+        rest_ = start;
+        return false;
+    }
     const std::u16string_view mornings[] = {u"AM", u"A", locale_.Am};
     const std::u16string_view afternoons[] = {u"PM", u"P", locale_.Pm};
     for (const auto& [words, hours] : {std::pair(std::span(mornings), 0), std::pair(std::span(afternoons), 12)}) {
@@ -226,7 +249,7 @@ Gap PartReader::ReadGap(bool behindDigit)
         } else if (gap.Mark == 0 && IsDateMark(unit)) {
             gap.Mark = unit;
         } else {
-            length = WordAhead();
+            length = IsDigit(unit) ? 0 : WordAhead();
             if (length == 0 || NameAhead().Length > length)
                 break;
             gap.Word = true;
@@ -238,7 +261,8 @@ Gap PartReader::ReadGap(bool behindDigit)
 
 bool PartReader::IsAhead(std::u16string_view word) const
 {
-    if (word.empty() || !StartsWithIgnoringCase(rest_, word))
+    if (word.empty() || rest_.empty() || UpperCase(rest_.front()) != UpperCase(word.front()) ||
+        !StartsWithIgnoringCase(rest_, word))
         return false;
     return NeedsNoGap(word.back()) || rest_.size() == word.size() || !IsLetter(rest_[word.size()]);
 }
@@ -357,8 +381,11 @@ bool ReadDate(std::u16string_view text, const Locale& locale, const DateOrdering
               const std::function<double()>& now, double& serial)
 {
     ReadParts parts;
-    if (!PartReader(text, locale, ordering).Read(parts))
-        return false;
+    if (!ReadThreeNumbers(text, parts)) {
+        parts = {};
+        if (!PartReader(text, locale, ordering).Read(parts))
+            return false;
+    }
     double day = 0.0;
     if (parts.HasDate()) {
         const bool needsYear = parts.Count + (parts.Month > 0 ? 1 : 0) < 3;

@@ -2,7 +2,6 @@
 
 #include "engine/runtime/CaseMap.h"
 
-#include <algorithm>
 #include <array>
 
 namespace Tessellon {
@@ -10,29 +9,30 @@ namespace Tessellon {
 namespace {
 
 /// What one, two, three... of a letter mean; `Literal` where that number means nothing.
-struct Run {
-    char16_t Letter;
-    std::array<DateSign, 6> Signs;
-};
+using RunSigns = std::array<DateSign, 6>;
 
 constexpr DateSign none = DateSign::Literal;
 
-constexpr Run runs[] = {
-    {u'C', {DateSign::General, none, none, none, none, none}},
-    {u'D',
-     {DateSign::Day, DateSign::DayTwo, DateSign::DayNameShort, DateSign::DayName, DateSign::ShortDate,
-      DateSign::LongDate}},
-    {u'W', {DateSign::Weekday, DateSign::Week, none, none, none, none}},
-    {u'M', {DateSign::Month, DateSign::MonthTwo, DateSign::MonthNameShort, DateSign::MonthName, none, none}},
-    {u'Q', {DateSign::Quarter, none, none, none, none, none}},
-    {u'Y', {DateSign::DayOfYear, DateSign::YearTwo, none, DateSign::Year, none, none}},
-    {u'H', {DateSign::Hour, DateSign::HourTwo, none, none, none, none}},
-    {u'N', {DateSign::Minute, DateSign::MinuteTwo, none, none, none, none}},
-    {u'S', {DateSign::Second, DateSign::SecondTwo, none, none, none, none}},
-    {u'T', {none, none, none, none, DateSign::LongTime, none}},
-    {u'A', {none, none, none, DateSign::DayName, none, none}},
-    {u'O', {none, none, none, DateSign::MonthName, none, none}},
-};
+constexpr std::array<RunSigns, 26> RunsByLetter()
+{
+    std::array<RunSigns, 26> runs{};
+    runs['C' - 'A'] = {DateSign::General};
+    runs['D' - 'A'] = {DateSign::Day,     DateSign::DayTwo,    DateSign::DayNameShort,
+                       DateSign::DayName, DateSign::ShortDate, DateSign::LongDate};
+    runs['W' - 'A'] = {DateSign::Weekday, DateSign::Week};
+    runs['M' - 'A'] = {DateSign::Month, DateSign::MonthTwo, DateSign::MonthNameShort, DateSign::MonthName};
+    runs['Q' - 'A'] = {DateSign::Quarter};
+    runs['Y' - 'A'] = {DateSign::DayOfYear, DateSign::YearTwo, none, DateSign::Year};
+    runs['H' - 'A'] = {DateSign::Hour, DateSign::HourTwo};
+    runs['N' - 'A'] = {DateSign::Minute, DateSign::MinuteTwo};
+    runs['S' - 'A'] = {DateSign::Second, DateSign::SecondTwo};
+    runs['T' - 'A'] = {none, none, none, none, DateSign::LongTime};
+    runs['A' - 'A'] = {none, none, none, DateSign::DayName};
+    runs['O' - 'A'] = {none, none, none, DateSign::MonthName};
+    return runs;
+}
+
+constexpr auto runsByLetter = RunsByLetter();
 
 struct Half {
     std::u16string_view Text;
@@ -103,18 +103,18 @@ bool DateTokens::NextHalf(DateToken& token)
 bool DateTokens::NextRun(DateToken& token)
 {
     const char16_t letter = UpperCase(format_[position_]);
-    const auto* run = std::ranges::find(runs, letter, &Run::Letter);
-    if (run == std::end(runs))
+    if (letter < u'A' || letter > u'Z')
         return false;
+    const RunSigns& signs = runsByLetter[letter - u'A'];
     std::size_t length = 1;
-    while (length < run->Signs.size() && position_ + length < format_.size() &&
+    while (length < signs.size() && position_ + length < format_.size() &&
            UpperCase(format_[position_ + length]) == letter)
         ++length;
-    while (length > 0 && run->Signs[length - 1] == none)
+    while (length > 0 && signs[length - 1] == none)
         --length;
     if (length == 0)
         return false;
-    DateSign kind = run->Signs[length - 1];
+    DateSign kind = signs[length - 1];
     if (behindHour_ && kind == DateSign::Month)
         kind = DateSign::Minute;
     else if (behindHour_ && kind == DateSign::MonthTwo)

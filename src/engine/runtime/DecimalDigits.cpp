@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <system_error>
 
 namespace Tessellon {
@@ -36,9 +37,11 @@ DecimalDigits DecimalDigits::OfDouble(double real)
 {
     std::array<char, 40> text;
     char* end = std::to_chars(text.data(), text.data() + text.size(), real, std::chars_format::scientific).ptr;
-    // The shortest text is quick. With 16 digits it has at least 21 units, as point and exponent take five.
+    // The shortest text is quick. With 16 digits it has at least 21 units, as point and exponent take five. Up to 15
+    // it is what rounding gives, but for numbers so small that they have fewer digits.
     constexpr std::ptrdiff_t fifteenDigits = 15 + 5;
-    if (end - text.data() > fifteenDigits)
+    const bool subnormal = std::abs(real) < std::numeric_limits<double>::min();
+    if (subnormal || end - text.data() > fifteenDigits)
         end = std::to_chars(text.data(), text.data() + text.size(), real, std::chars_format::scientific, 14).ptr;
     return OfScientific({text.data(), static_cast<std::size_t>(end - text.data())});
 }

@@ -56,6 +56,8 @@ private:
     bool found_ = false;
 };
 
+} // namespace
+
 bool HasDateSigns(std::u16string_view format)
 {
     DateTokens tokens(format);
@@ -65,27 +67,6 @@ bool HasDateSigns(std::u16string_view format)
             token.Kind == DateSign::DayName && token.Text.front() != u'd' && token.Text.front() != u'D';
         if (token.Kind > DateSign::TimeSeparator && !maskSign && !maskLetters)
             return true;
-    }
-    return false;
-}
-
-} // namespace
-
-bool FormatScanner::Next(FormatSign& sign)
-{
-    while (position_ < format_.size()) {
-        const char16_t unit = format_[position_++];
-        if (unit == u'"') {
-            quoted_ = !quoted_;
-        } else if (unit == u'\\' && !quoted_) {
-            if (position_ == format_.size())
-                return false;
-            sign = {format_[position_++], true};
-            return true;
-        } else {
-            sign = {unit, quoted_};
-            return true;
-        }
     }
     return false;
 }
@@ -144,7 +125,7 @@ NamedFormat NamedFormatOf(std::u16string_view format)
     if (format.size() < shortest || format.size() > longest)
         return NamedFormat::None;
     for (const NamedFormatText& named : namedFormats) {
-        if (EqualIgnoringCase(format, named.Text))
+        if (format.size() == named.Text.size() && EqualIgnoringCase(format, named.Text))
             return named.Format;
     }
     return NamedFormat::None;

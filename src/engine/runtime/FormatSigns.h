@@ -22,7 +22,24 @@ public:
     {
     }
 
-    bool Next(FormatSign& sign);
+    bool Next(FormatSign& sign)
+    {
+        while (position_ < format_.size()) {
+            const char16_t unit = format_[position_++];
+            if (unit == u'"') {
+                quoted_ = !quoted_;
+            } else if (unit == u'\\' && !quoted_) {
+                if (position_ == format_.size())
+                    return false;
+                sign = {format_[position_++], true};
+                return true;
+            } else {
+                sign = {unit, quoted_};
+                return true;
+            }
+        }
+        return false;
+    }
     /// Units read so far.
     [[nodiscard]] std::size_t Position() const { return position_; }
     [[nodiscard]] std::u16string_view Rest() const { return format_.substr(position_); }
@@ -52,6 +69,7 @@ struct FormatTraits {
 };
 
 FormatTraits TraitsOf(std::u16string_view format);
+bool HasDateSigns(std::u16string_view format); ///< As `FormatTraits::DateSigns`.
 
 /// The sections of a format, parted by semicolons: at most four, what is behind them is left out.
 struct FormatSections {

@@ -73,7 +73,7 @@ void AppendMasked(std::u16string& out, std::u16string_view text, std::u16string_
         for (const char16_t unit : units)
             out.push_back(InCase(unit, caseSign));
     };
-    if (plan.Places == 0 && !IsBlank(text)) {
+    if (plan.Places == 0 && !text.empty() && !IsBlank(text)) {
         append(text);
         return;
     }

@@ -232,6 +232,34 @@ bool ReadNumber(std::u16string_view text, const Locale& locale, DecimalDigits& d
     return digits.FitsDouble();
 }
 
+bool ReadPlainNumber(std::u16string_view text, char16_t decimalSeparator, double& number)
+{
+    constexpr double powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    constexpr std::size_t mostDigits = 15;
+    const bool negative = text.starts_with(u'-');
+    text.remove_prefix(negative ? 1 : 0);
+    if (text.size() > mostDigits + 1)
+        return false;
+    std::int64_t digits = 0;
+    std::size_t count = 0;
+    std::size_t whole = mostDigits + 1; // Digits ahead of the separator, once there is one
+    for (const char16_t unit : text) {
+        if (IsDigit(unit)) {
+            digits = digits * 10 + (unit - u'0');
+            ++count;
+        } else if (unit == decimalSeparator && whole > mostDigits) {
+            whole = count;
+        } else {
+            return false;
+        }
+    }
+    if (count == 0 || count > mostDigits)
+        return false;
+    // Both are exact, so the quotient is the nearest float.
+    number = static_cast<double>(negative ? -digits : digits) / powers[whole > mostDigits ? 0 : count - whole];
+    return true;
+}
+
 bool ReadDecimal(std::u16string_view text, DecimalDigits& digits)
 {
     digits = {};

@@ -12,6 +12,10 @@ namespace Tessellon {
 /// &H and &O. False where the text is no number, or one past the range of a 64-bit float.
 bool ReadNumber(std::u16string_view text, const Locale& locale, DecimalDigits& digits);
 
+/// The quick way for what most texts are: at most a minus, 15 digits and one decimal separator. False for any other,
+/// though it may be a number too.
+bool ReadPlainNumber(std::u16string_view text, char16_t decimalSeparator, double& number);
+
 /// Reads the digits of a decimal as a source gives them: sign, digits, point, exponent. False where it is none.
 bool ReadDecimal(std::u16string_view text, DecimalDigits& digits);
 

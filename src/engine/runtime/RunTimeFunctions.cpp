@@ -108,15 +108,15 @@ void RunTimeFunctions::FormatNumber(std::u16string& out, const Value& value, std
 {
     const bool date = value.Type == Value::Kind::Date;
     const NamedFormat named = NamedFormatOf(format);
-    const FormatTraits traits = named == NamedFormat::None ? TraitsOf(format) : FormatTraits();
     if (date && IsNamedDate(named)) {
         AppendNamedDate(out, value.Real, named, locale_);
         return;
     }
-    if (date && traits.DateSigns) {
+    if (date && named == NamedFormat::None && HasDateSigns(format)) {
         AppendDate(out, value.Real, format, locale_);
         return;
     }
+    const FormatTraits traits = named == NamedFormat::None ? TraitsOf(format) : FormatTraits();
     DecimalDigits digits;
     const bool general = named == NamedFormat::GeneralNumber && value.Type != Value::Kind::Boolean;
     if (!DigitsOf(value, digits) || general) {
@@ -207,12 +207,18 @@ void RunTimeFunctions::GeneralTextTo(std::u16string& out, const Value& value) co
 
 bool RunTimeFunctions::IsNumeric(std::u16string_view text) const
 {
+    double number = 0.0;
+    if (ReadPlainNumber(text, locale_.DecimalSeparator, number))
+        return true;
     DecimalDigits digits;
     return ReadNumber(text, locale_, digits);
 }
 
 double RunTimeFunctions::ToNumber(std::u16string_view text) const
 {
+    double number = 0.0;
+    if (ReadPlainNumber(text, locale_.DecimalSeparator, number))
+        return number;
     DecimalDigits digits;
     if (!ReadNumber(text, locale_, digits))
         Fail(13, u"TessellonSheet");
