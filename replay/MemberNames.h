@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Words.h"
+
+#include <string>
+
+namespace Tessellon::Replay {
+
+/// A member of the platform as `fail` names it, "Combo1(2).Text", in the journal's own words. A control or member that
+/// is not there, and an index where none belongs, throw ScriptError.
+std::u16string ReadMemberName(const Word& word);
+
+} // namespace Tessellon::Replay
