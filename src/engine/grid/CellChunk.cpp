@@ -15,6 +15,9 @@ constexpr std::uint16_t lengthMask =
     0x7FFF; ///< As a length itself: the length stands in the arena, ahead of the units.
 constexpr std::size_t longPrefix = sizeof(std::uint32_t);
 constexpr std::size_t leastGarbage = 256;
+/// Texts are widened by whole blocks, nearly all by one, so that their length costs no wrong guess of the processor.
+/// The arena therefore has a block of known bytes behind its last text.
+constexpr std::size_t block = 32;
 
 bool FitsBytes(std::u16string_view text)
 {
@@ -72,21 +75,23 @@ std::u16string_view CellChunk::Text(std::int32_t row, std::int32_t col, TextScra
     if (cell.Length == 0)
         return {};
     const Extent extent = ExtentOf(cell);
-    char16_t* units = scratch.Room(extent.Units);
+    char16_t* units = scratch.Room(extent.Units + block);
     const char* from = arena_.get() + extent.Begin;
     if (extent.IsWide)
         std::memcpy(units, from, extent.Units * 2);
     else
-        for (std::size_t index = 0; index < extent.Units; ++index)
-            units[index] = static_cast<unsigned char>(from[index]);
+        for (std::size_t done = 0; done < extent.Units; done += block)
+            for (std::size_t index = done; index < done + block; ++index)
+                units[index] = static_cast<unsigned char>(from[index]);
     return {units, extent.Units};
 }
 
 void CellChunk::Resize(std::size_t capacity)
 {
-    auto arena = std::make_unique_for_overwrite<char[]>(capacity);
+    auto arena = std::make_unique_for_overwrite<char[]>(capacity + block);
     if (arenaSize_ > 0)
         std::memcpy(arena.get(), arena_.get(), arenaSize_);
+    std::memset(arena.get() + arenaSize_, 0, block);
     arena_ = std::move(arena);
     arenaCapacity_ = capacity;
 }
@@ -98,6 +103,7 @@ std::size_t CellChunk::Room(std::size_t bytes, std::size_t hint)
         throw std::bad_alloc();
     if (wanted > arenaCapacity_)
         Resize(isTrimmed_ ? wanted + wanted / 8 : std::max({wanted, arenaCapacity_ * 2, hint, std::size_t{64}}));
+    std::memset(arena_.get() + wanted, 0, block);
     return std::exchange(arenaSize_, wanted);
 }
 
@@ -376,7 +382,7 @@ bool CellChunk::ClearColors(std::int32_t row, std::int32_t firstCol, std::int32_
 std::size_t CellChunk::Bytes() const
 {
     const std::size_t cells = cells_ ? Index(capacity_) * Index(cols_) * sizeof(Cell) : 0;
-    return sizeof(CellChunk) + cells + (bands_ ? Index(capacity_) : 0) + arenaCapacity_ +
+    return sizeof(CellChunk) + cells + (bands_ ? Index(capacity_) : 0) + (arena_ ? arenaCapacity_ + block : 0) +
            extras_.capacity() * sizeof(CellExtra);
 }
 

@@ -35,15 +35,14 @@ std::int32_t CellStore::ChunkRows() const
 
 std::size_t CellStore::Find(std::int32_t row) const
 {
-    const auto holds = [&](std::size_t chunk) {
-        return chunk < firsts_.size() && firsts_[chunk] <= row && row - firsts_[chunk] < chunks_[chunk]->Rows();
-    };
-    if (holds(hit_))
+    if (hit_ < firsts_.size() && Holds(hit_, row))
         return hit_;
-    const auto guess = static_cast<std::size_t>(std::int64_t{row} * static_cast<std::int64_t>(firsts_.size()) / rows_);
-    for (const std::size_t chunk : {hit_ + 1, guess, guess - 1, guess + 1})
-        if (holds(chunk))
-            return hit_ = chunk;
+    if (hit_ + 1 < firsts_.size() && Holds(hit_ + 1, row))
+        return ++hit_;
+    auto guess = std::min(static_cast<std::size_t>(row * chunksPerRow_), firsts_.size() - 1);
+    guess -= static_cast<std::size_t>(firsts_[guess] > row);
+    if (Holds(guess, row))
+        return hit_ = guess;
     const auto behind = std::ranges::upper_bound(firsts_, row);
     return hit_ = static_cast<std::size_t>(std::distance(firsts_.begin(), behind)) - 1;
 }
@@ -58,6 +57,7 @@ void CellStore::PutChunk(std::size_t chunk, std::int32_t first, std::unique_ptr<
 {
     chunks_.insert(chunks_.begin() + At(chunk), std::move(added));
     firsts_.insert(firsts_.begin() + At(chunk), first);
+    chunksPerRow_ = static_cast<double>(firsts_.size()) / std::max(firsts_.back() + chunks_.back()->Rows(), 1);
 }
 
 void CellStore::TakeChunk(std::size_t chunk)
@@ -160,22 +160,27 @@ void CellStore::RemoveRow(std::int32_t row)
     }
 }
 
+CellChunk& CellStore::Held(std::size_t chunk, std::int32_t row)
+{
+    if (!chunks_[chunk]->IsBlank())
+        return *chunks_[chunk];
+    // A blank stretch is as long as it is; only what is written into becomes a chunk of the ordinary size.
+    const std::int32_t capacity = ChunkRows();
+    const std::int32_t offset = row - firsts_[chunk];
+    if (const std::int32_t begin = offset - offset % capacity; begin > 0)
+        SplitChunk(chunk++, begin);
+    if (chunks_[chunk]->Rows() > capacity)
+        SplitChunk(chunk, capacity);
+    chunks_[chunk]->Hold(capacity);
+    hit_ = chunk;
+    return *chunks_[chunk];
+}
+
 CellChunk& CellStore::Writable(std::int32_t row, std::int32_t& rowInChunk)
 {
-    std::size_t chunk = Find(row);
-    if (chunks_[chunk]->IsBlank()) {
-        // A blank stretch is as long as it is; only what is written into becomes a chunk of the ordinary size.
-        const std::int32_t capacity = ChunkRows();
-        const std::int32_t offset = row - firsts_[chunk];
-        if (const std::int32_t begin = offset - offset % capacity; begin > 0)
-            SplitChunk(chunk++, begin);
-        if (chunks_[chunk]->Rows() > capacity)
-            SplitChunk(chunk, capacity);
-        chunks_[chunk]->Hold(capacity);
-        hit_ = chunk;
-    }
-    rowInChunk = row - firsts_[chunk];
-    return *chunks_[chunk];
+    CellChunk& chunk = Held(Find(row), row);
+    rowInChunk = row - firsts_[hit_];
+    return chunk;
 }
 
 std::u16string_view CellStore::Text(std::int32_t row, std::int32_t col)
@@ -189,14 +194,13 @@ bool CellStore::SetText(std::int32_t row, std::int32_t col, std::u16string_view 
     const std::size_t found = Find(row);
     if (chunks_[found]->IsBlank() && text.empty())
         return false;
-    std::int32_t rowInChunk = 0;
-    CellChunk& chunk = Writable(row, rowInChunk);
+    CellChunk& chunk = Held(found, row);
     if (&chunk != filling_) {
         if (filling_ != nullptr)
             textHint_ = filling_->Trim();
         filling_ = &chunk;
     }
-    return chunk.SetText(rowInChunk, col, text, textHint_ + textHint_ / 16);
+    return chunk.SetText(row - firsts_[hit_], col, text, textHint_ + textHint_ / 16);
 }
 
 std::optional<std::int32_t> CellStore::Color(std::int32_t row, std::int32_t col) const

@@ -47,13 +47,17 @@ private:
         bool operator==(const Band&) const = default;
     };
 
+    [[nodiscard]] bool Holds(std::size_t chunk, std::int32_t row) const
+    {
+        return firsts_[chunk] <= row && (chunk + 1 == firsts_.size() || row < firsts_[chunk + 1]);
+    }
     [[nodiscard]] std::size_t Find(std::int32_t row) const;
-    [[nodiscard]] std::int32_t FirstOf(std::size_t chunk) const { return firsts_[chunk]; }
     [[nodiscard]] std::int32_t ChunkRows() const;
     CellChunk& Writable(std::int32_t row, std::int32_t& rowInChunk);
     void SplitChunk(std::size_t chunk, std::int32_t row);
     void PutChunk(std::size_t chunk, std::int32_t first, std::unique_ptr<CellChunk> added);
     void TakeChunk(std::size_t chunk);
+    CellChunk& Held(std::size_t chunk, std::int32_t row);
     void MoveFirsts(std::size_t from, std::int32_t by);
     [[nodiscard]] std::uint8_t BandNumber(const Band& band);
     void ForgetUnusedBands();
@@ -63,6 +67,7 @@ private:
     std::int32_t rows_;
     std::int32_t cols_;
     std::vector<std::int32_t> firsts_; ///< First row of each chunk.
+    double chunksPerRow_ = 0; ///< Where chunks are alike, this finds the right one at once.
     std::vector<std::unique_ptr<CellChunk>> chunks_;
     mutable std::size_t hit_ = 0; ///< The chunk found last.
     CellChunk* filling_ = nullptr; ///< The chunk whose arena is growing.
