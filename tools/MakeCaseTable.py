@@ -55,7 +55,8 @@ def letter_ranges():
 
 
 def write(name, kind, rows):
-    print(f"inline constexpr {kind} {name}[] = {{")
+    rows = list(rows)
+    print(f"inline constexpr std::array<{kind}, {len(rows)}> {name} = {{{{")
     line = "   "
     for row in rows:
         text = " {" + ", ".join(row) + "},"
@@ -64,7 +65,7 @@ def write(name, kind, rows):
             line = "   "
         line += text
     print(line)
-    print("};\n")
+    print("}};\n")
 
 
 def mapping_rows(mapping):
@@ -75,6 +76,7 @@ print(f"""#pragma once
 
 // Written by tools/MakeCaseTable.py from Unicode {unicodedata.unidata_version}; change that, not this.
 
+#include <array>
 #include <cstdint>
 
 namespace Tessellon {{

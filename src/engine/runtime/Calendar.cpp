@@ -2,7 +2,9 @@
 
 #include "engine/Failures.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace Tessellon {
 
@@ -62,10 +64,10 @@ bool IsLeapYear(int year)
 
 int DaysInMonth(int year, int month)
 {
-    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    constexpr std::array days{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     if (month < 1 || month > 12)
         return 0;
-    return month == 2 && IsLeapYear(year) ? 29 : days[month - 1];
+    return month == 2 && IsLeapYear(year) ? 29 : days[static_cast<std::size_t>(month - 1)];
 }
 
 bool IsLegalDate(int year, int month, int day)

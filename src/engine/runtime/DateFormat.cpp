@@ -5,6 +5,7 @@
 #include "engine/runtime/DateTokens.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace Tessellon {
@@ -64,12 +65,11 @@ private:
     }
     void WriteNumber(int number, int figures)
     {
-        constexpr int mostFigures = 4;
-        char16_t text[mostFigures];
-        int start = mostFigures;
-        for (; number > 0 || mostFigures - start < figures; number /= 10)
-            text[--start] = static_cast<char16_t>(u'0' + number % 10);
-        out_.append(text + start, static_cast<std::size_t>(mostFigures - start));
+        std::array<char16_t, 4> text;
+        auto start = text.end();
+        for (; number > 0 || text.end() - start < figures; number /= 10)
+            *--start = static_cast<char16_t>(u'0' + number % 10);
+        out_.append(start, text.end());
     }
     void WriteHour(bool twelveHours, int figures)
     {

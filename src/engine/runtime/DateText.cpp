@@ -8,7 +8,6 @@
 #include <array>
 #include <cstddef>
 #include <initializer_list>
-#include <span>
 #include <utility>
 
 namespace Tessellon {
@@ -48,6 +47,7 @@ struct ReadParts {
     std::array<ReadFigures, 3> Numbers;
     std::size_t Count = 0;
     int Month = 0; ///< By its name; 0 without.
+    bool MonthFirst = false; ///< The name stands ahead of all numbers.
     bool Weekday = false;
     bool PointOrComma = false; ///< Between two numbers
     bool Time = false;
@@ -159,6 +159,8 @@ bool PartReader::ReadPart(ReadParts& parts, const Gap& gap)
     if (name.Length > 0) {
         if (name.Month > 0 && (parts.Month > 0 || parts.TimeBehind))
             return false;
+        if (name.Month > 0)
+            parts.MonthFirst = parts.Count == 0;
         parts.Month = std::max(parts.Month, name.Month);
         parts.Weekday = parts.Weekday || name.Month == 0;
         rest_.remove_prefix(name.Length);
@@ -192,7 +194,7 @@ bool PartReader::ReadFiguresUpTo(std::size_t most, ReadFigures& number)
 bool PartReader::ReadTime(int& seconds)
 {
     const std::u16string_view start = rest_;
-    ReadFigures figures[3];
+    std::array<ReadFigures, 3> figures;
     std::size_t count = 0;
     bool read = ReadFiguresUpTo(2, figures[count++]);
     while (read && count < 3 && !rest_.empty() && IsTimeMark(rest_.front())) {
@@ -218,9 +220,9 @@ bool PartReader::ReadHalf(int& hour)
         rest_ = start;
         return false;
     }
-    const std::u16string_view mornings[] = {u"AM", u"A", locale_.Am};
-    const std::u16string_view afternoons[] = {u"PM", u"P", locale_.Pm};
-    for (const auto& [words, hours] : {std::pair(std::span(mornings), 0), std::pair(std::span(afternoons), 12)}) {
+    const std::array<std::u16string_view, 3> mornings{u"AM", u"A", locale_.Am};
+    const std::array<std::u16string_view, 3> afternoons{u"PM", u"P", locale_.Pm};
+    for (const auto& [words, hours] : {std::pair(mornings, 0), std::pair(afternoons, 12)}) {
         for (const std::u16string_view word : words) {
             if (!IsAhead(word))
                 continue;
@@ -330,7 +332,8 @@ private:
     bool NameAndNumber()
     {
         const ReadFigures number = parts_.Numbers[0];
-        if (ordering_.TwoAreMonthAndYear() && number.Figures > 1 && Take(YearOf(number), parts_.Month, 1))
+        const bool inItsOrder = ordering_.MonthBeforeYear() == parts_.MonthFirst;
+        if (ordering_.TwoAreMonthAndYear() && inItsOrder && number.Figures > 1 && Take(YearOf(number), parts_.Month, 1))
             return true;
         if (number.Figures <= 2 && Take(thisYear_, parts_.Month, number.Value))
             return true;

@@ -40,10 +40,10 @@ struct Half {
     DateSign Lower;
 };
 
-constexpr Half halves[] = {
-    {u"AM/PM", DateSign::HalfUpper, DateSign::HalfLower},
-    {u"A/P", DateSign::HalfUpperShort, DateSign::HalfLowerShort},
-    {u"AMPM", DateSign::HalfOfLocale, DateSign::HalfOfLocale},
+constexpr std::array halves{
+    Half{u"AM/PM", DateSign::HalfUpper, DateSign::HalfLower},
+    Half{u"A/P", DateSign::HalfUpperShort, DateSign::HalfLowerShort},
+    Half{u"AMPM", DateSign::HalfOfLocale, DateSign::HalfOfLocale},
 };
 
 } // namespace

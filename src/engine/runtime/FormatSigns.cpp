@@ -3,6 +3,8 @@
 #include "engine/runtime/CaseMap.h"
 #include "engine/runtime/DateTokens.h"
 
+#include <array>
+
 namespace Tessellon {
 
 namespace {
@@ -12,23 +14,23 @@ struct NamedFormatText {
     NamedFormat Format;
 };
 
-constexpr NamedFormatText namedFormats[] = {
-    {u"General Number", NamedFormat::GeneralNumber},
-    {u"Currency", NamedFormat::Currency},
-    {u"Fixed", NamedFormat::Fixed},
-    {u"Standard", NamedFormat::Standard},
-    {u"Percent", NamedFormat::Percent},
-    {u"Scientific", NamedFormat::Scientific},
-    {u"Yes/No", NamedFormat::YesNo},
-    {u"True/False", NamedFormat::TrueFalse},
-    {u"On/Off", NamedFormat::OnOff},
-    {u"General Date", NamedFormat::GeneralDate},
-    {u"Long Date", NamedFormat::LongDate},
-    {u"Medium Date", NamedFormat::MediumDate},
-    {u"Short Date", NamedFormat::ShortDate},
-    {u"Long Time", NamedFormat::LongTime},
-    {u"Medium Time", NamedFormat::MediumTime},
-    {u"Short Time", NamedFormat::ShortTime},
+constexpr std::array namedFormats{
+    NamedFormatText{u"General Number", NamedFormat::GeneralNumber},
+    NamedFormatText{u"Currency", NamedFormat::Currency},
+    NamedFormatText{u"Fixed", NamedFormat::Fixed},
+    NamedFormatText{u"Standard", NamedFormat::Standard},
+    NamedFormatText{u"Percent", NamedFormat::Percent},
+    NamedFormatText{u"Scientific", NamedFormat::Scientific},
+    NamedFormatText{u"Yes/No", NamedFormat::YesNo},
+    NamedFormatText{u"True/False", NamedFormat::TrueFalse},
+    NamedFormatText{u"On/Off", NamedFormat::OnOff},
+    NamedFormatText{u"General Date", NamedFormat::GeneralDate},
+    NamedFormatText{u"Long Date", NamedFormat::LongDate},
+    NamedFormatText{u"Medium Date", NamedFormat::MediumDate},
+    NamedFormatText{u"Short Date", NamedFormat::ShortDate},
+    NamedFormatText{u"Long Time", NamedFormat::LongTime},
+    NamedFormatText{u"Medium Time", NamedFormat::MediumTime},
+    NamedFormatText{u"Short Time", NamedFormat::ShortTime},
 };
 
 /// Notes whether words consist of the letters that are places of a mask, and of nothing else.

@@ -234,7 +234,7 @@ bool ReadNumber(std::u16string_view text, const Locale& locale, DecimalDigits& d
 
 bool ReadPlainNumber(std::u16string_view text, char16_t decimalSeparator, double& number)
 {
-    constexpr double powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    constexpr std::array powers{1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
     constexpr std::size_t mostDigits = 15;
     const bool negative = text.starts_with(u'-');
     text.remove_prefix(negative ? 1 : 0);

@@ -115,7 +115,8 @@ TEST(DateText, FormatWithoutDay_MakesTwoPartsMonthAndYear)
                                        {u"Mar 15", u"2015-03-01"},
                                        {u"03/04/2024", u"2024-04-03"}});
     ExpectRead(WithOrder(u"yy/MM"), {{u"03/04", u"2003-04-01"}, {u"2024/03", u"2024-03-01"}});
-    ExpectRead(WithOrder(u"MMM yy"), {{u"Mar 15", u"2015-03-01"}});
+    ExpectRead(WithOrder(u"MMM yy"), {{u"Mar 15", u"2015-03-01"}, {u"15 Mar", u"2024-03-15"}});
+    ExpectRead(WithOrder(u"yy MMM"), {{u"15 Mar", u"2015-03-01"}, {u"2015 Mar", u"2015-03-01"}});
 }
 
 TEST(DateText, TwoNumbers_AreDayAndMonthOfTheClocksYearElseMonthAndYear)
