@@ -132,7 +132,8 @@ bool Focus::Press(InputControl& control)
         if (holder_ != &control)
             Move(control);
     }
-    return holder_ == &control && control.CanHaveFocus();
+    // A handler of the loss may have taken the focus elsewhere: the press counts all the same.
+    return windowInFront_ && control.CanHaveFocus();
 }
 
 /// Nothing in the sheet has the focus any more.
