@@ -3,6 +3,7 @@
 #include "engine/Failures.h"
 #include "engine/runtime/Calendar.h"
 
+#include <exception>
 #include <new>
 
 namespace Tessellon::Replay {
@@ -75,6 +76,8 @@ void Runner::Run(const Script& script)
             WriteException(failure.Number);
         } catch (const std::bad_alloc&) {
             WriteException(7);
+        } catch (const std::exception&) {
+            WriteException(5);
         }
         if (isOver_)
             return;

@@ -1,6 +1,5 @@
 #include "engine/runtime/NumberFormat.h"
 
-#include "engine/runtime/AppendAscii.h"
 #include "engine/runtime/NumberText.h"
 
 #include <algorithm>
@@ -198,7 +197,7 @@ private:
         char* const end = std::to_chars(text.data(), text.data() + text.size(), size).ptr;
         for (std::int64_t figures = end - text.data(); figures < plan_.ExponentFigures; ++figures)
             out_.push_back(u'0');
-        AppendAscii(out_, {text.data(), end});
+        out_.append(text.data(), end);
     }
 
     std::u16string& out_;

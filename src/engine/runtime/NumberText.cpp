@@ -1,6 +1,5 @@
 #include "engine/runtime/NumberText.h"
 
-#include "engine/runtime/AppendAscii.h"
 #include "engine/runtime/CaseMap.h"
 #include "platform/RunTime.h"
 
@@ -154,6 +153,11 @@ struct NumberMarks {
     bool TakeOpening(NumberReader& reader) { return !Opened && !Sign && reader.Take(u'(') && (Opened = true); }
     bool TakeClosing(NumberReader& reader) { return Opened && !Closed && reader.Take(u')') && (Closed = true); }
 };
+
+void AppendAscii(std::u16string& out, std::string_view text)
+{
+    out.append(text.begin(), text.end());
+}
 
 void AppendScientific(std::u16string& out, const DecimalDigits& digits, char16_t decimalSeparator)
 {

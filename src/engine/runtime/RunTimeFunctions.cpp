@@ -1,7 +1,6 @@
 #include "engine/runtime/RunTimeFunctions.h"
 
 #include "engine/Failures.h"
-#include "engine/runtime/AppendAscii.h"
 #include "engine/runtime/Calendar.h"
 #include "engine/runtime/DateFormat.h"
 #include "engine/runtime/DateText.h"
@@ -35,7 +34,8 @@ template <typename Whole>
 void AppendInteger(std::u16string& out, Whole number)
 {
     std::array<char, 24> text;
-    AppendAscii(out, {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr});
+    char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    out.append(text.data(), end);
 }
 
 /// False for what has no digits: a float that is not finite, a decimal that cannot be read.
