@@ -12,13 +12,13 @@ bool BelongsToKey(char16_t character)
 
 } // namespace
 
-void Keys::Down(const Stroke& stroke)
+bool Keys::Down(const Stroke& stroke)
 {
     if (focus_.Holder() != nullptr)
         focus_.Holder()->TakePending(&stroke);
     InputControl* const told = focus_.Holder();
     if (told == nullptr)
-        return;
+        return true;
     const unsigned before = told->TimesTakenDown();
     EventArguments arguments;
     arguments.KeyCode = stroke.Code;
@@ -26,10 +26,11 @@ void Keys::Down(const Stroke& stroke)
     told->Raise(ChildEvent::KeyDown, arguments);
     // A key without a code has the code 0 from the start: nobody can have eaten it.
     if (arguments.KeyCode == 0 && stroke.Code != 0)
-        return;
+        return false;
     told->KeyMeans(arguments.KeyCode, arguments.Shift, told->TimesTakenDown() != before);
     if (stroke.HasCharacter)
         Character(stroke.Character, stroke.Shift);
+    return true;
 }
 
 void Keys::Character(char16_t character, std::int16_t shift)

@@ -13,7 +13,8 @@ public:
     {
     }
 
-    void Down(const Stroke& stroke); ///< The key goes down and types its character.
+    /// The key goes down and types its character. False: a handler ate it.
+    bool Down(const Stroke& stroke);
     void Up(const Stroke& stroke);
     /// A character that comes without a key, as an input method commits it.
     void Type(char16_t character);

@@ -1,0 +1,123 @@
+#include "qt/CellPainter.h"
+
+#include "qt/Colors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Tessellon {
+
+namespace {
+
+constexpr qreal textMargin = 3;
+
+QColor Mixed(const QColor& one, const QColor& other, qreal share)
+{
+    const auto mix = [&](qreal from, qreal to) { return static_cast<float>(from + (to - from) * share); };
+    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
+                            mix(one.blueF(), other.blueF()));
+}
+
+/// Where something of a size begins in a room: `third` 0 at its start, 1 in its middle, 2 at its end.
+qreal Placed(qreal begin, qreal room, qreal size, int third)
+{
+    return begin + (room - size) * third / 2;
+}
+
+} // namespace
+
+CellPainter::CellPainter(QPainter& painter, ShapedTextCache& texts, const QPalette& palette, qreal scale)
+    : painter_(painter)
+    , texts_(texts)
+    , palette_(palette)
+    , scale_(scale)
+    , line_(std::max(1.0, std::floor(scale)) / scale)
+    , lineColor_(Mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.2))
+    , fixedLineColor_(Mixed(palette.color(QPalette::Button), palette.color(QPalette::ButtonText), 0.35))
+{
+}
+
+qreal CellPainter::Snapped(qreal position) const
+{
+    return std::round(position * scale_) / scale_;
+}
+
+void CellPainter::PaintEmpty(const QRectF& place)
+{
+    painter_.fillRect(place, palette_.color(QPalette::Window));
+}
+
+void CellPainter::Paint(const CellLook& cell)
+{
+    const QRectF inner = cell.Place.adjusted(0, 0, -line_, -line_);
+    const bool highlighted = cell.IsSelected && !cell.IsCurrent && !cell.IsFixed;
+    QColor background = palette_.color(cell.IsFixed ? QPalette::Button : QPalette::Base);
+    QColor foreground = palette_.color(cell.IsFixed ? QPalette::ButtonText : QPalette::Text);
+    if (highlighted) {
+        background = palette_.color(QPalette::Highlight);
+        foreground = palette_.color(QPalette::HighlightedText);
+    } else if (cell.Color) {
+        background = ColorFrom(*cell.Color, palette_);
+    }
+    foreground = ReadableOn(background, foreground);
+
+    painter_.fillRect(inner, background);
+    const QColor& line = cell.IsFixed ? fixedLineColor_ : lineColor_;
+    painter_.fillRect(QRectF(inner.right(), cell.Place.top(), line_, cell.Place.height()), line);
+    painter_.fillRect(QRectF(cell.Place.left(), inner.bottom(), inner.width(), line_), line);
+    if (cell.ShowsArrow)
+        PaintArrow(cell, inner, foreground);
+    if (!cell.Text.empty())
+        PaintText(cell, inner, foreground);
+    if (cell.IsCurrent)
+        PaintFrame(inner);
+}
+
+void CellPainter::PaintText(const CellLook& cell, const QRectF& inner, const QColor& color)
+{
+    constexpr int lastAlignment = 8;
+    const qreal room = inner.width() - 2 * textMargin;
+    if (room < 1)
+        return;
+    const QStaticText& text = texts_.Shaped(cell.Text, static_cast<int>(room));
+    const QSizeF size = text.size();
+    const int alignment = cell.Alignment >= 0 && cell.Alignment <= lastAlignment ? cell.Alignment : 1;
+    const QPointF at(Snapped(Placed(inner.left() + textMargin, room, size.width(), alignment / 3)),
+                     Snapped(Placed(inner.top(), inner.height(), size.height(), alignment % 3)));
+    painter_.setPen(color);
+    if (size.height() <= inner.height()) {
+        painter_.drawStaticText(at, text);
+        return;
+    }
+    painter_.save();
+    painter_.setClipRect(inner, Qt::IntersectClip);
+    painter_.drawStaticText(at, text);
+    painter_.restore();
+}
+
+void CellPainter::PaintArrow(const CellLook& cell, const QRectF& inner, const QColor& color)
+{
+    const qreal height = std::min(Snapped(inner.height() * 0.55), inner.width());
+    const qreal width = height * 0.6;
+    const int alignment = std::clamp<int>(cell.PictureAlignment, 0, 8);
+    const qreal left = Snapped(Placed(inner.left(), inner.width(), width, alignment / 3));
+    const qreal top = Snapped(Placed(inner.top(), inner.height(), height, alignment % 3));
+    const QPointF corners[] = {{left, top}, {left + width, top + height / 2}, {left, top + height}};
+    painter_.setRenderHint(QPainter::Antialiasing, true);
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(color);
+    painter_.drawConvexPolygon(corners, 3);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void CellPainter::PaintFrame(const QRectF& inner)
+{
+    const QColor color = palette_.color(QPalette::Highlight);
+    const qreal width = std::min(2 * line_, inner.height());
+    painter_.fillRect(QRectF(inner.left(), inner.top(), inner.width(), width), color);
+    painter_.fillRect(QRectF(inner.left(), inner.bottom() - width, inner.width(), width), color);
+    painter_.fillRect(QRectF(inner.left(), inner.top(), width, inner.height()), color);
+    painter_.fillRect(QRectF(inner.right() - width, inner.top(), width, inner.height()), color);
+}
+
+} // namespace Tessellon

@@ -1,0 +1,253 @@
+#include "qt/SheetFrame.h"
+
+#include "qt/CheckBoxWidget.h"
+#include "qt/FocusEcho.h"
+#include "qt/GridView.h"
+#include "qt/KeyInput.h"
+#include "qt/QtLocale.h"
+#include "qt/QtToolkit.h"
+#include "qt/TextBoxWidget.h"
+
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QResizeEvent>
+
+#include <utility>
+
+namespace Tessellon {
+
+namespace {
+
+constexpr qint64 longActivity = 100; ///< Milliseconds from which on an activity paints while it lasts.
+
+std::unique_ptr<Metrics> MetricsFor(Conduct conduct, const QWidget& widget)
+{
+    if (conduct == Conduct::Replay)
+        return std::make_unique<FixedMetrics>();
+    return std::make_unique<ScreenMetrics>(widget);
+}
+
+} // namespace
+
+SheetFrame::Activity::Activity(SheetFrame& frame)
+    : frame_(frame)
+{
+    if (frame_.activities_++ == 0)
+        frame_.activitySince_.start();
+}
+
+SheetFrame::Activity::~Activity()
+{
+    --frame_.activities_;
+}
+
+SheetFrame::SheetFrame(Conduct conduct, QWidget* parent)
+    : QWidget(parent)
+    , conduct_(conduct)
+    , metrics_(MetricsFor(conduct, *this))
+    , toolkit_(std::make_shared<QtToolkit>(*this))
+    , platform_(std::make_shared<EnginePlatform>(toolkit_,
+                                                 conduct == Conduct::Replay ? Locale::English() : LocaleFrom(locale())))
+    , keys_(std::make_unique<KeyInput>(*this))
+    , view_(new GridView(*this))
+    , text_(new TextBoxWidget(*this))
+    , check_(new CheckBoxWidget(*this))
+    , bars_(std::make_unique<GridScrollBars>(*this))
+    , echo_(std::make_unique<FocusEcho>(*this))
+{
+    setFocusPolicy(Qt::TabFocus);
+    if (conduct_ == Conduct::Desktop)
+        platform_->TheFocus().WindowOut();
+}
+
+SheetFrame::~SheetFrame()
+{
+    ShowPointer(0);
+    toolkit_->Detach();
+}
+
+/// A widget is never destroyed inside its own event: what is running here returns into widgets that are still there.
+void SheetFrame::Drop(SheetFrame* frame)
+{
+    frame->isDropped_ = true;
+    frame->toolkit_->Detach();
+    frame->echo_->Stop();
+    if (frame->activities_ == 0) {
+        delete frame;
+        return;
+    }
+    frame->hide();
+    frame->setParent(nullptr);
+    frame->deleteLater();
+}
+
+QWidget& SheetFrame::WidgetOf(const InputControl* control) const
+{
+    if (control == platform_->TheTextBox().get())
+        return *text_;
+    if (control == platform_->TheCheckBox().get())
+        return *check_;
+    return *view_;
+}
+
+QRect SheetFrame::PixelsOf(const ControlCore::Rectangle& place) const
+{
+    const float pixel = metrics_->TwipsAPixel();
+    const auto edge = [&](float twips) { return qRound(twips / pixel); };
+    return {QPoint(edge(place.Left), edge(place.Top)),
+            QPoint(edge(place.Left + place.Width) - 1, edge(place.Top + place.Height) - 1)};
+}
+
+std::int32_t SheetFrame::TwipsOf(int pixels) const
+{
+    return qRound(static_cast<float>(pixels) * metrics_->TwipsAPixel());
+}
+
+void SheetFrame::ScreenChanged()
+{
+    platform_->TheGrid().FontMetricsChanged();
+    ResizeSheet();
+    for (ControlCore* control : {static_cast<ControlCore*>(platform_->TheTextBox().get()),
+                                 static_cast<ControlCore*>(platform_->TheCheckBox().get())})
+        ShowControl(*control, Aspect::Place);
+    view_->update();
+}
+
+// ---- Painting -------------------------------------------------------------------------------------------------------
+
+void SheetFrame::Invalidate(const GridRectangle& part)
+{
+    constexpr int mostParts = 64;
+    if (!HasBars() || !view_->isVisible())
+        return;
+    const QRect pixels = view_->PixelsAround(part);
+    view_->update(pixels);
+    due_ += pixels;
+    if (due_.rectCount() > mostParts)
+        due_ = due_.boundingRect();
+}
+
+void SheetFrame::PaintNow()
+{
+    if (!HasBars())
+        return;
+    bars_->FollowIfDue();
+    // What an activity leads to is painted in one: an editor that goes from cell to cell is never seen gone.
+    if (activities_ > 0 && activitySince_.elapsed() < longActivity)
+        return;
+    if (activities_ > 0)
+        activitySince_.start();
+    view_->repaint(std::exchange(due_, {}));
+}
+
+void SheetFrame::ShowControl(ControlCore& control, Aspect aspect)
+{
+    if (!HasBars())
+        return;
+    if (control.Which() == Child::Text1)
+        text_->Follow(aspect);
+    else if (control.Which() == Child::Check1)
+        check_->Follow(aspect);
+}
+
+// ---- Messages and pointer -------------------------------------------------------------------------------------------
+
+void SheetFrame::ShowMessage(const QString& text)
+{
+    if (OnMessage) {
+        OnMessage(text);
+        return;
+    }
+    const Activity activity(*this);
+    const QPointer<QMessageBox> box = new QMessageBox(QMessageBox::Critical, QGuiApplication::applicationDisplayName(),
+                                                      text, QMessageBox::Ok, window());
+    isMessageUp_ = true;
+    box->exec();
+    isMessageUp_ = false;
+    delete box;
+    if (!isDropped_ && isVisible() && !isActiveWindow())
+        activateWindow();
+}
+
+void SheetFrame::ShowPointer(std::int16_t shape)
+{
+    constexpr std::int16_t hourglass = 11;
+    if (std::exchange(isWaiting_, shape == hourglass) == (shape == hourglass))
+        return;
+    if (isWaiting_)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
+}
+
+// ---- Events ---------------------------------------------------------------------------------------------------------
+
+void SheetFrame::ResizeSheet()
+{
+    const float pixel = metrics_->TwipsAPixel();
+    Do([&] { platform_->Resize(static_cast<float>(width()) * pixel, static_cast<float>(height()) * pixel); });
+    if (!isDropped_)
+        bars_->Follow();
+}
+
+bool SheetFrame::event(QEvent* event)
+{
+    if (isDropped_ || !HasBars())
+        return QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::WindowActivate: Do([&] { platform_->TheFocus().WindowIn(); }); break;
+    case QEvent::WindowDeactivate:
+        if (!isMessageUp_ && QGuiApplication::focusWindow() != window()->windowHandle()) {
+            text_->CommitComposition();
+            Do([&] {
+                platform_->TheGrid().AbandonPress();
+                platform_->TheFocus().WindowOut();
+            });
+        }
+        break;
+    case QEvent::ScreenChangeInternal: ScreenChanged(); break;
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+        text_->Follow(Aspect::Look);
+        check_->Follow(Aspect::Look);
+        break;
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        // What a child left over passes through here; it was told there.
+        if (hasFocus())
+            return keys_->Handle(*event);
+        break;
+    default: break;
+    }
+    return QWidget::event(event);
+}
+
+void SheetFrame::resizeEvent(QResizeEvent* /*event*/)
+{
+    ResizeSheet();
+}
+
+void SheetFrame::showEvent(QShowEvent* /*event*/)
+{
+    echo_->WatchWindow();
+    if (conduct_ == Conduct::Desktop && isActiveWindow())
+        Do([&] { platform_->TheFocus().WindowIn(); });
+    bars_->Follow();
+}
+
+// The bases of these repaint the whole widget.
+void SheetFrame::focusInEvent(QFocusEvent* /*event*/)
+{
+}
+
+void SheetFrame::focusOutEvent(QFocusEvent* /*event*/)
+{
+}
+
+void SheetFrame::wheelEvent(QWheelEvent* event)
+{
+    view_->TurnWheel(*event);
+}
+
+} // namespace Tessellon

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "engine/EnginePlatform.h"
+#include "qt/Conduct.h"
+#include "qt/Metrics.h"
+#include "qt/GridScrollBars.h"
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QRegion>
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+namespace Tessellon {
+
+class CheckBoxWidget;
+class FocusEcho;
+class GridView;
+class KeyInput;
+class QtToolkit;
+class TextBoxWidget;
+
+/// The platform of one sheet as a widget: the grid, its scroll bars, the editors, and what the user does with them. It
+/// is one tab stop. A sheet is made on its Platform(); whoever makes it lets go of it ahead of this widget.
+class SheetFrame : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SheetFrame(Conduct conduct, QWidget* parent = nullptr);
+    ~SheetFrame() override;
+
+    /// Takes the frame off its parent and deletes it, later if an event of the user's is running in it.
+    static void Drop(SheetFrame* frame);
+
+    [[nodiscard]] Conduct TheConduct() const { return conduct_; }
+    [[nodiscard]] const std::shared_ptr<EnginePlatform>& Platform() const { return platform_; }
+    [[nodiscard]] GridView& View() const { return *view_; }
+    [[nodiscard]] TextBoxWidget& TextEditor() const { return *text_; }
+    [[nodiscard]] CheckBoxWidget& CheckEditor() const { return *check_; }
+    [[nodiscard]] Metrics& TheMetrics() const { return *metrics_; }
+    [[nodiscard]] KeyInput& TheKeyInput() const { return *keys_; }
+    [[nodiscard]] FocusEcho& Echo() const { return *echo_; }
+    [[nodiscard]] bool HasBars() const { return bars_ != nullptr; } ///< Not yet while the platform is being made.
+    [[nodiscard]] GridScrollBars& Bars() const { return *bars_; }
+
+    /// Runs what the user does; nothing of it reaches Qt's event loop as an exception. This widget, and all that is in
+    /// it, is still there when it returns, but the sheet may have ended.
+    template <class Action>
+    void Do(const Action& action)
+    {
+        const Activity activity(*this);
+        platform_->UserAction(action);
+    }
+
+    /// While one of these lives, painting waits for its end, unless that takes long.
+    class Activity {
+    public:
+        explicit Activity(SheetFrame& frame);
+        ~Activity();
+        Activity(const Activity&) = delete;
+        Activity& operator=(const Activity&) = delete;
+
+    private:
+        SheetFrame& frame_;
+    };
+
+    /// The widget that has Qt's focus while `control` has the sheet's.
+    [[nodiscard]] QWidget& WidgetOf(const InputControl* control) const;
+    /// A rectangle in twips as logical pixels: its edges are rounded, not its sizes.
+    [[nodiscard]] QRect PixelsOf(const ControlCore::Rectangle& place) const;
+    [[nodiscard]] std::int32_t TwipsOf(int pixels) const;
+    /// The screen or its scale is another than the metrics were taken from.
+    void ScreenChanged();
+
+    // What the toolkit asks for.
+    void Invalidate(const GridRectangle& part);
+    void Painted(const QRegion& part) { due_ -= part; }
+    void PaintNow();
+    void ShowControl(ControlCore& control, Aspect aspect);
+    void ShowMessage(const QString& text);
+    void ShowPointer(std::int16_t shape); ///< 11 the hourglass, else none of its own.
+    bool GoOn(bool forward) { return focusNextPrevChild(forward); } ///< Qt's focus goes to the next tab stop.
+
+    /// Hears a message instead of a box; the box is then closed at once.
+    std::function<void(const QString&)> OnMessage;
+
+signals:
+    void UnhandledFailure(int number, const QString& source, const QString& description);
+    void PropertyChanged(const QString& name);
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    friend class Activity;
+    void ResizeSheet();
+
+    Conduct conduct_;
+    std::unique_ptr<Metrics> metrics_;
+    std::shared_ptr<QtToolkit> toolkit_;
+    std::shared_ptr<EnginePlatform> platform_;
+    std::unique_ptr<KeyInput> keys_;
+    GridView* view_ = nullptr;
+    TextBoxWidget* text_ = nullptr;
+    CheckBoxWidget* check_ = nullptr;
+    std::unique_ptr<GridScrollBars> bars_;
+    std::unique_ptr<FocusEcho> echo_;
+    int activities_ = 0;
+    bool isDropped_ = false;
+    bool isMessageUp_ = false;
+    bool isWaiting_ = false; ///< The hourglass is shown.
+    QElapsedTimer activitySince_;
+    QRegion due_;
+};
+
+} // namespace Tessellon
