@@ -68,14 +68,14 @@ bool TessellonSheet::IsColEditable(std::int32_t Col)
     });
 }
 
-/// The next instance of a kind: the first column uses the one that is always there.
+/// Makes the next instance of a kind and tells its index: the first column uses the one that is always there.
 template <class Kind>
-std::shared_ptr<Kind> TessellonSheet::NextInstance(ControlArray<Kind>& array, std::int16_t counter)
+std::int16_t TessellonSheet::MakeInstance(ControlArray<Kind>& array, std::int16_t counter)
 {
     const auto index = static_cast<std::int16_t>(counter - 1);
     if (counter > 1)
         array.Load(index);
-    return array.Item(index);
+    return index;
 }
 
 void TessellonSheet::Count(std::int16_t& counter)
@@ -88,9 +88,9 @@ void TessellonSheet::Count(std::int16_t& counter)
 void TessellonSheet::LoadComboState(std::int32_t Index, std::u16string Setting)
 {
     Armed(u"LoadComboState", [&] {
-        const auto instance = NextInstance(*Combo1, NextComboIndex);
-        Column(Index).cdControlIndex = static_cast<std::int16_t>(NextComboIndex - 1);
-        Split(Setting, [&](std::u16string_view item) { instance->AddItem(item); });
+        const std::int16_t instance = MakeInstance(*Combo1, NextComboIndex);
+        Column(Index).cdControlIndex = instance;
+        Split(Setting, [&](std::u16string_view item) { Combo1->Item(instance)->AddItem(item); });
         Count(NextComboIndex);
     });
 }
@@ -98,9 +98,9 @@ void TessellonSheet::LoadComboState(std::int32_t Index, std::u16string Setting)
 void TessellonSheet::LoadListState(std::int32_t Index, std::u16string Setting)
 {
     Armed(u"LoadListState", [&] {
-        const auto instance = NextInstance(*List1, NextListIndex);
-        Column(Index).cdControlIndex = static_cast<std::int16_t>(NextListIndex - 1);
-        Split(Setting, [&](std::u16string_view item) { instance->AddItem(item); });
+        const std::int16_t instance = MakeInstance(*List1, NextListIndex);
+        Column(Index).cdControlIndex = instance;
+        Split(Setting, [&](std::u16string_view item) { List1->Item(instance)->AddItem(item); });
         Count(NextListIndex);
     });
 }
@@ -109,12 +109,12 @@ void TessellonSheet::LoadMaskState(std::int32_t Index, std::u16string Setting)
 {
     Armed(u"LoadMaskState", [&] {
         EditorLoading = true;
-        const auto instance = NextInstance(*MaskEdBox1, NextMaskIndex);
-        Column(Index).cdControlIndex = static_cast<std::int16_t>(NextMaskIndex - 1);
+        const std::int16_t instance = MakeInstance(*MaskEdBox1, NextMaskIndex);
+        Column(Index).cdControlIndex = instance;
         if (Column(Index).cdUseMask)
-            instance->Mask(Setting);
+            MaskEdBox1->Item(instance)->Mask(Setting);
         else
-            instance->Format(Setting);
+            MaskEdBox1->Item(instance)->Format(Setting);
         Count(NextMaskIndex);
         EditorLoading = false;
     });
@@ -124,9 +124,9 @@ void TessellonSheet::LoadMaskState(std::int32_t Index, std::u16string Setting)
 void TessellonSheet::LoadCommandState(std::int32_t Index, std::u16string Setting)
 {
     Armed(u"LoadListState", [&] {
-        const auto instance = NextInstance(*Command1, NextCommandIndex);
-        instance->Caption(Trim(Setting));
-        Column(Index).cdControlIndex = static_cast<std::int16_t>(NextCommandIndex - 1);
+        const std::int16_t instance = MakeInstance(*Command1, NextCommandIndex);
+        Command1->Item(instance)->Caption(Trim(Setting));
+        Column(Index).cdControlIndex = instance;
         Count(NextCommandIndex);
     });
 }

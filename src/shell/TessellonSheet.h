@@ -231,7 +231,7 @@ private:
     std::shared_ptr<Editor> GetColControl(std::int32_t Col);
     bool IsArrayControl(std::int32_t Col);
     template <class Kind>
-    std::shared_ptr<Kind> NextInstance(ControlArray<Kind>& array, std::int16_t counter);
+    std::int16_t MakeInstance(ControlArray<Kind>& array, std::int16_t counter);
     template <class Kind>
     void UnloadAllButFirst(ControlArray<Kind>& array, std::int16_t& counter);
     void Count(std::int16_t& counter);
