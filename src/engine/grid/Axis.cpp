@@ -65,6 +65,7 @@ Axis::Place Axis::Find(std::int32_t index) const
 
 void Axis::SetCount(std::int32_t count)
 {
+    last_ = {};
     if (count > count_) {
         const std::int32_t grown = count - count_;
         if (blocks_.empty())
@@ -101,6 +102,7 @@ void Axis::SetCount(std::int32_t count)
 
 void Axis::Replace(const Place& place, std::int32_t removed, const Run* added)
 {
+    last_ = {};
     Block& block = blocks_[place.Block];
     const Run old = block.Runs[place.Run];
     const std::size_t from = place.Run == 0 ? 0 : place.Run - 1;
@@ -184,17 +186,20 @@ std::int32_t Axis::Size(std::int32_t index) const
 
 std::int32_t Axis::Own(std::int32_t index) const
 {
-    const Place place = Find(index);
-    return blocks_[place.Block].Runs[place.Run].Own;
+    if (!last_.Has(index)) {
+        const Place place = Find(index);
+        const Run& run = blocks_[place.Block].Runs[place.Run];
+        last_ = {index - place.Offset, run.Count, run.Own};
+    }
+    return last_.Own;
 }
 
 void Axis::SetOwn(std::int32_t index, std::int32_t size)
 {
-    const Place place = Find(index);
-    if (blocks_[place.Block].Runs[place.Run].Own == size)
+    if (Own(index) == size)
         return;
     const Run added{1, size};
-    Replace(place, 1, &added);
+    Replace(Find(index), 1, &added);
 }
 
 void Axis::SetDefaultSize(std::int32_t size)

@@ -63,6 +63,15 @@ private:
         std::int32_t Offset; ///< Within the run.
     };
 
+    /// A stretch of neighbours of one own size, found last: walks ask again and again for the next.
+    struct Stretch {
+        std::int32_t First = 0;
+        std::int32_t Count = 0;
+        std::int32_t Own = defaultOwn;
+
+        [[nodiscard]] bool Has(std::int32_t index) const { return index - First >= 0 && index - First < Count; }
+    };
+
     [[nodiscard]] std::int32_t Effective(std::int32_t own) const;
     [[nodiscard]] Place Find(std::int32_t index) const;
     void KnowStarts() const;
@@ -76,6 +85,7 @@ private:
     std::vector<Block> blocks_;
     mutable std::vector<Start> starts_;
     mutable std::size_t known_ = 0; ///< How many entries of starts_ hold.
+    mutable Stretch last_;
 };
 
 } // namespace Tessellon

@@ -108,7 +108,7 @@ GridRectangle GridEngine::ShownCurrentCell()
 
 GridSpan GridEngine::VisibleRows() const
 {
-    const std::int32_t height = View().Height;
+    const std::int32_t height = WithoutBar(height_, surroundings_.HorizontalScrollBarHeight());
     if (!visibleRows_ || visibleIn_ != height) {
         visibleRows_ = RowSight().Visible();
         visibleIn_ = height;
