@@ -38,7 +38,7 @@ enum class DateWrite : std::uint8_t {
 
 /// What the user's doing led to.
 struct DateResult {
-    bool Changed = false; ///< The value became another: Change is due.
+    bool Changed = false; ///< The value became another, be it only on the way: Change is due.
     bool Bell = false;
     bool ForCallback = false; ///< The current field is one of the host's: the key is its own to handle.
 };

@@ -124,7 +124,7 @@ std::optional<ListState::Range> ListState::Target(ListKey key, std::int16_t shif
     return IsDown(shift, shiftKey) ? FromAnchor(index) : Alone(index);
 }
 
-ListState::Range ListState::Alone(std::int32_t index) const
+ListState::Range ListState::Alone(std::int32_t index)
 {
     return {index, index, index, index};
 }

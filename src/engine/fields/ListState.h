@@ -56,7 +56,7 @@ private:
     };
 
     [[nodiscard]] std::optional<Range> Target(ListKey key, std::int16_t shift) const;
-    [[nodiscard]] Range Alone(std::int32_t index) const;
+    [[nodiscard]] static Range Alone(std::int32_t index);
     [[nodiscard]] Range FromAnchor(std::int32_t index) const;
     [[nodiscard]] bool IsSelection(const Range& range) const;
     bool Take(const Range& range);
