@@ -4,11 +4,16 @@
 #include "ScriptError.h"
 #include "Stage.h"
 
+#include <unistd.h>
+
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -70,14 +75,31 @@ std::optional<std::string> ReadFile(const std::string& name)
     return TextOf(file.get());
 }
 
+#ifdef TESSELLON_QT_STAGE
 std::unique_ptr<Stage> MakeStage(const std::string& platform)
 {
-#ifdef TESSELLON_QT_STAGE
-    if (platform == "qt")
-        return MakeQtStage();
-#endif
+    return platform == "qt" ? MakeQtStage() : MakeHeadlessStage();
+}
+
+void HandOver(const std::string& /*platform*/, char** /*arguments*/)
+{
+}
+#else
+std::unique_ptr<Stage> MakeStage(const std::string& platform)
+{
     return platform == "headless" ? MakeHeadlessStage() : nullptr;
 }
+
+/// The desktop platform is in a command of its own beside this one: to load it would cost a headless replay more than
+/// its script does. Returns where there is none.
+void HandOver(const std::string& platform, char** arguments)
+{
+    std::error_code unknown;
+    const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", unknown);
+    if (platform == "qt" && !unknown)
+        execv((self.parent_path() / "tessellon-replay-qt").c_str(), arguments);
+}
+#endif
 
 int Replay(const Options& options)
 {
@@ -116,5 +138,6 @@ int main(int argc, char** argv)
         std::fputs(usage, stderr);
         return unreadable;
     }
+    HandOver(options->Platform, argv);
     return Replay(*options);
 }
