@@ -20,6 +20,7 @@ TEST(DatePickerCalendar, DayThatIsPicked_KeepsTheTimeOfDay)
     EXPECT_TRUE(picker.Fields.PickDay(Moment(2024, 3, 20)).Changed);
     EXPECT_EQ(picker.Shown(), u"2024-03-20 10:30:00");
     EXPECT_FALSE(picker.Fields.PickDay(Moment(2024, 3, 20, 23)).Changed);
+    EXPECT_FALSE(picker.Fields.PickDay(Moment(2024, 3, 21) - 0.1 / 86400).Changed);
     EXPECT_TRUE(picker.Fields.PickDay(Moment(1800, 3, 20, 23)).Changed);
     EXPECT_EQ(picker.Shown(), u"1800-03-20 10:30:00");
 }

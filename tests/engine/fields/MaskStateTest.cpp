@@ -62,6 +62,15 @@ TEST(MaskedBox, FormattedTextWithoutAMask_IsTheTextThroughTheFormat)
     EXPECT_EQ(box.State.Text(), u"12");
 }
 
+TEST(MaskedBox, FormattedTextReadTwice_IsTheSame)
+{
+    MaskBox box;
+    box.State.Format(u"0.00");
+    EXPECT_EQ(box.State.Text(u"12"), MaskWrite::Changed);
+    EXPECT_EQ(box.State.FormattedText(), u"12.00");
+    EXPECT_EQ(box.State.FormattedText(), u"12.00");
+}
+
 TEST(MaskedBox, FormattedTextWithoutMaskAndFormat_IsTheText)
 {
     MaskBox box;

@@ -224,6 +224,8 @@ TEST(MaskedBox, CharacterTypedOverHalfAPair_LeavesNoHalfBehind)
     EXPECT_EQ(other.Typing(u"😀b").At(1).Typing(u"x").State.Text(), u"_xb");
     MaskBox same(u"&&&");
     EXPECT_EQ(same.Typing(u"😀b").At(0).Typing(u"😁").State.Text(), u"😁b");
+    MaskBox half(u"&&&");
+    EXPECT_EQ(half.Typing(u"😀b").At(1).Typing(u"\xDE01").State.Text(), u"😁b");
 }
 
 } // namespace
