@@ -50,30 +50,42 @@ FieldClass ClassOf(std::int32_t type)
 
 } // namespace
 
-/// A failure in the load leaves the members as they stand: the next build and the next load set them right.
+/// The mouse pointer is every window's: it is given back though the sheet be ended inside the load, but not where a
+/// load without a connection fails on the way to its host.
 void TessellonSheet::DataSource(std::shared_ptr<Recordset> recordset, std::shared_ptr<Connection> connection)
 {
     Entry(*this).Run([&] {
         ThreadFailureRecord().Clear();
         try {
-            CheckStack();
-            Screen->MousePointer(hourglass);
-            LoadingRecordset = true;
-            if (recordset && ColumnBound > 0) {
-                BoundRecordset = platform_->Watched(std::move(recordset));
-                ColumnsDeclared = !ColumnsDeclared;
-                if (!BoundRecordset->AtEnd())
-                    LoadRecords();
-                ColumnsDeclared = !ColumnsDeclared;
-                if (RefreshPicture(ptArrow, 1))
-                    MarkerRow = 1;
-            }
-            LoadingRecordset = false;
-        } catch (const std::exception&) {
-            HandleLoadFailure(connection.get());
+            Load(std::move(recordset), connection.get());
+        } catch (const SheetEnded&) {
+            Screen->MousePointer(defaultPointer);
+            throw;
         }
         Screen->MousePointer(defaultPointer);
     });
+}
+
+/// A failure in the load leaves the members as they stand: the next build and the next load set them right.
+void TessellonSheet::Load(std::shared_ptr<Recordset> recordset, Connection* connection)
+{
+    try {
+        CheckStack();
+        Screen->MousePointer(hourglass);
+        LoadingRecordset = true;
+        if (recordset && ColumnBound > 0) {
+            BoundRecordset = platform_->Watched(std::move(recordset));
+            ColumnsDeclared = !ColumnsDeclared;
+            if (!BoundRecordset->AtEnd())
+                LoadRecords();
+            ColumnsDeclared = !ColumnsDeclared;
+            if (RefreshPicture(ptArrow, 1))
+                MarkerRow = 1;
+        }
+        LoadingRecordset = false;
+    } catch (const std::exception&) {
+        HandleLoadFailure(connection);
+    }
 }
 
 void TessellonSheet::LoadRecords()

@@ -3,9 +3,6 @@
 #include "shell/TessellonSheet.h"
 
 #include <exception>
-#include <new>
-#include <stdexcept>
-#include <typeinfo>
 
 namespace Tessellon {
 
@@ -20,6 +17,33 @@ void AppendField(std::u16string& message, std::u16string_view label, std::u16str
     message.append(label).append(u"\t : ").append(value);
 }
 
+void AppendLine(std::u16string& message, std::u16string_view label, std::u16string_view value)
+{
+    AppendField(message, label, value);
+    message.append(lineEnd);
+}
+
+/// A blank line parts the errors of a connection.
+void AppendErrors(std::u16string& message, const std::vector<ProviderError>& errors)
+{
+    for (const ProviderError& error : errors) {
+        AppendLine(message, u" ADO Error #", DecimalText(error.Number));
+        AppendLine(message, u" Description", error.Description);
+        AppendLine(message, u" Native Error", DecimalText(error.NativeError));
+        AppendLine(message, u" SQL Status", error.SQLState);
+        AppendLine(message, u" Source", error.Source);
+        message.append(lineEnd);
+    }
+}
+
+void AppendFailure(std::u16string& message, std::int32_t number, std::u16string_view description,
+                   std::u16string_view source)
+{
+    AppendLine(message, u"Error Number ", DecimalText(number));
+    AppendLine(message, u"Description", Trim(description));
+    AppendField(message, u"Source", source);
+}
+
 } // namespace
 
 std::u16string DecimalText(std::int32_t number)
@@ -28,41 +52,18 @@ std::u16string DecimalText(std::int32_t number)
     return {digits.begin(), digits.end()};
 }
 
-/// Puts the failure that is being caught into the record, with the platform's number for one of the standard library.
-void TessellonSheet::TakeCaughtFailure()
-{
-    const auto take = [this](std::int32_t number) {
-        ThreadFailureRecord().Take(
-            Failure(number, std::u16string(moduleLabel), std::u16string(RunTime->FailureText(number))));
-    };
-    try {
-        throw;
-    } catch (const Failure& failure) {
-        ThreadFailureRecord().Take(failure);
-    } catch (const std::bad_alloc&) {
-        take(7);
-    } catch (const std::length_error&) {
-        take(7);
-    } catch (const std::out_of_range&) {
-        take(9);
-    } catch (const std::bad_cast&) {
-        take(13);
-    } catch (const std::overflow_error&) {
-        take(6);
-    } catch (...) {
-        take(5);
-    }
-}
-
 /// The handler of the standard frame. The message box comes first, and what it leaves in the record is what the host
 /// gets; the description goes where the host expects the source, and the other way round.
 void TessellonSheet::HandleFailure(const char16_t* procedure)
 {
     TakeCaughtFailure();
-    // A host that answers each report with a call that fails again would use up what is left.
-    if (StackUsed() > stackBudget_ / 6 * 7)
-        return;
     FailureRecord& record = ThreadFailureRecord();
+    // A host that answers each report with a call that fails again would use up what is left of the stack; a sheet
+    // that was ended inside one of its events tells nothing more.
+    if (StackUsed() > stackBudget_ / 6 * 7 || HasEndedInside()) {
+        record.Clear();
+        return;
+    }
     if (ThreadModuleFlags().ShowErrMessageFlag)
         ReportError(record.Number, std::u16string(record.Description), std::u16string(record.Source), procedure,
                     moduleLabel, nullptr);
@@ -77,6 +78,10 @@ void TessellonSheet::HandleLoadFailure(Connection* connection)
 {
     TakeCaughtFailure();
     FailureRecord& record = ThreadFailureRecord();
+    if (HasEndedInside()) {
+        record.Clear();
+        return;
+    }
     if (ThreadModuleFlags().ShowErrMessageFlag)
         ReportError(record.Number, std::u16string(record.Description), std::u16string(record.Source), u"DataSource",
                     moduleLabel, connection);
@@ -93,61 +98,55 @@ void TessellonSheet::HandleLoadFailure(Connection* connection)
     record.Clear();
 }
 
+/// Puts the message together and shows it, or raises, and absorbs, what is to be told. It cannot fail itself: a
+/// statement of its own that fails is passed over, and the record keeps that failure.
 void TessellonSheet::ReportError(std::int32_t errNumber, const std::u16string& errDescription,
                                  const std::u16string& errSource, std::u16string_view procedureName,
                                  std::u16string_view moduleName, Connection* connection)
 {
-    FailureRecord& record = ThreadFailureRecord();
     std::u16string message;
     std::vector<ProviderError> errors;
     const bool raise = ThreadModuleFlags().RaiseErrorFlag;
     Ignoring(
         [&] {
-            message.append(u"Critical error occurs at ")
-                .append(RunTime->Format(Value::OfDate(RunTime->Now()), u"Short Date"))
-                .append(u" in function ")
-                .append(procedureName)
-                .append(u" of module ")
-                .append(moduleName)
-                .append(lineEnd);
+            const std::u16string date(RunTime->Format(Value::OfDate(RunTime->Now()), u"Short Date"));
+            message.append(u"Critical error occurs at ").append(date);
+            message.append(u" in function ").append(procedureName);
+            message.append(u" of module ").append(moduleName).append(lineEnd);
         },
         [&] {
             if (connection != nullptr)
                 errors = connection->Errors();
+        },
+        [&] {
+            if (raise)
+                AbsorbRaises(errors);
+            else if (!errors.empty())
+                AppendErrors(message, errors);
+            else
+                AppendFailure(message, errNumber, errDescription, errSource);
+        },
+        [&] {
+            if (raise)
+                return;
+            const HostCode hostCode(*this);
+            RunTime->MessageBox(message, criticalWithOk);
         });
-    for (const ProviderError& error : errors) {
-        if (raise) {
-            // A raise with the number 0 is itself invalid.
-            const bool valid = error.Number != 0;
-            record.Take(valid
-                            ? Failure(error.Number, error.Source, error.Description, error.HelpFile, error.HelpContext)
-                            : Failure(5, {}, std::u16string(RunTime->FailureText(5))));
-            continue;
-        }
-        AppendField(message, u" ADO Error #", DecimalText(error.Number));
-        message.append(lineEnd);
-        AppendField(message, u" Description", error.Description);
-        message.append(lineEnd);
-        AppendField(message, u" Native Error", DecimalText(error.NativeError));
-        message.append(lineEnd);
-        AppendField(message, u" SQL Status", error.SQLState);
-        message.append(lineEnd);
-        AppendField(message, u" Source", error.Source);
-        message.append(lineEnd).append(lineEnd);
-    }
-    if (errors.empty() && raise)
-        record.Take(Failure(5, {}, std::u16string(RunTime->FailureText(5))));
-    if (raise)
-        return;
-    if (errors.empty()) {
-        AppendField(message, u"Error Number ", DecimalText(errNumber));
-        message.append(lineEnd);
-        AppendField(message, u"Description", Trim(errDescription));
-        message.append(lineEnd);
-        AppendField(message, u"Source", errSource);
-    }
-    Ignoring([&] { RunTime->MessageBox(message, criticalWithOk); });
     LeaveIfEnded();
+}
+
+/// What raises leave behind that nobody hears: the last of the errors. Without errors it is the raise itself that
+/// fails, for the record is empty by then and has no number to raise.
+void TessellonSheet::AbsorbRaises(const std::vector<ProviderError>& errors)
+{
+    FailureRecord& record = ThreadFailureRecord();
+    const Failure invalidRaise(5, {}, std::u16string(RunTime->FailureText(5)));
+    if (errors.empty() || errors.back().Number == 0) {
+        record.Take(invalidRaise);
+        return;
+    }
+    const ProviderError& last = errors.back();
+    record.Take(Failure(last.Number, last.Source, last.Description, last.HelpFile, last.HelpContext));
 }
 
 } // namespace Tessellon

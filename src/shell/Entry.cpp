@@ -3,9 +3,6 @@
 #include <cmath>
 #include <exception>
 #include <limits>
-#include <new>
-#include <stdexcept>
-#include <typeinfo>
 
 namespace Tessellon {
 
@@ -57,31 +54,8 @@ void TessellonSheet::End()
 
 void TessellonSheet::LeaveIfEnded() const
 {
-    if (ended_ && depth_ > 0)
+    if (HasEndedInside())
         throw SheetEnded();
-}
-
-/// Turns what a host's handler threw into a failure of the handler, with the number that the platform has for it.
-void TessellonSheet::FailInHandler()
-{
-    try {
-        throw;
-    } catch (const SheetEnded&) {
-        throw;
-    } catch (Failure& failure) {
-        failure.Source = u"Host";
-        throw;
-    } catch (const std::bad_alloc&) {
-        Fail(7, u"Host");
-    } catch (const std::out_of_range&) {
-        Fail(9, u"Host");
-    } catch (const std::bad_cast&) {
-        Fail(13, u"Host");
-    } catch (const std::overflow_error&) {
-        Fail(6, u"Host");
-    } catch (...) {
-        Fail(5, u"Host");
-    }
 }
 
 void TessellonSheet::Fail(std::int32_t number)

@@ -16,17 +16,23 @@ public:
     explicit Entry(TessellonSheet& sheet)
         : sheet_(sheet)
         , alive_(sheet.self_)
+        , calledByHost_(std::exchange(sheet.inHost_, false))
     {
         if (sheet_.depth_++ == 0) {
             const char here = 0;
             sheet_.stackTop_ = reinterpret_cast<std::uintptr_t>(&here);
         }
     }
-    ~Entry() { --sheet_.depth_; }
+    ~Entry()
+    {
+        sheet_.inHost_ = calledByHost_;
+        --sheet_.depth_;
+    }
     Entry(const Entry&) = delete;
     Entry& operator=(const Entry&) = delete;
 
-    /// Runs a host call; on a sheet that has ended, or ends meanwhile, the call gives its default result.
+    /// Runs a host call; on a sheet that has ended, or ends meanwhile, the call gives its default result. The end goes
+    /// on to the sheet's own frames below, but never through the code of a host or of an event loop.
     template <class Body>
     auto Run(Body&& body) -> decltype(body())
     {
@@ -35,7 +41,7 @@ public:
             try {
                 return std::forward<Body>(body)();
             } catch (const SheetEnded&) {
-                if (sheet_.depth_ > 1)
+                if (!calledByHost_)
                     throw;
             }
         }
@@ -45,6 +51,7 @@ public:
 private:
     TessellonSheet& sheet_;
     const std::shared_ptr<TessellonSheet> alive_;
+    const bool calledByHost_;
 };
 
 } // namespace Tessellon

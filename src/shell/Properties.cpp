@@ -16,7 +16,7 @@ void TessellonSheet::Row(std::int32_t row)
             if (RowCount <= 0 || row <= 0 || row >= RowCount)
                 return;
             MSFlexGrid1->Row(row);
-            MoveMarker(CurrentRow);
+            MoveMarker();
         });
     });
 }

@@ -143,8 +143,10 @@ private:
     void Raise(Child child, ChildEvent event, EventArguments& arguments) override;
     template <class HostEvent, class... Arguments>
     void RaiseEvent(const HostEvent& event, Arguments&&... arguments);
+    class HostCode;
     [[noreturn]] void FailInHandler();
     void LeaveIfEnded() const;
+    [[nodiscard]] bool HasEndedInside() const { return ended_ && depth_ > 0; } ///< Inside one of its own events.
 
     // Failures: the handler frames (failure/Frames.h) and what they share.
     template <class Body>
@@ -163,6 +165,7 @@ private:
     std::int32_t ToLong(double number); ///< To the nearest, ties to even; past 32 bits: failure 6.
     void ReportError(std::int32_t errNumber, const std::u16string& errDescription, const std::u16string& errSource,
                      std::u16string_view procedureName, std::u16string_view moduleName, Connection* connection);
+    void AbsorbRaises(const std::vector<ProviderError>& errors);
 
     // Frame and lifecycle.
     void UserControl_Initialize();
@@ -187,6 +190,7 @@ private:
 
     // Data.
     void GetRecSize(std::int32_t& FieldCount, std::int32_t& RecordCount);
+    void Load(std::shared_ptr<Recordset> recordset, Connection* connection);
     void LoadRecords();
     void LoadCell(Recordset& recordset, std::int32_t row, std::int32_t index, std::int32_t fieldCount);
     bool TruthOf(const Value& value);
@@ -370,7 +374,7 @@ private:
     void MSFlexGrid1_Scroll();
     void MSFlexGrid1_SelChange();
     bool IsOnHeaderBand(float x, float y);
-    void MoveMarker(std::int32_t row);
+    void MoveMarker();
 
     // Colours and row marker.
     void RefreshGridColor(std::int32_t FromRow, std::int32_t KeepCol);
@@ -381,6 +385,7 @@ private:
     std::shared_ptr<Platform> platform_;
     std::shared_ptr<TessellonSheet> self_;
     bool ended_ = false;
+    bool inHost_ = true; ///< The sheet's innermost frame has called the host, or the sheet has no frame at all.
     int depth_ = 0;
     std::uintptr_t stackTop_ = 0;
     std::size_t stackBudget_ = 0;

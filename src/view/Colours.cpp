@@ -113,13 +113,13 @@ bool TessellonSheet::RefreshPicture(PictureType Picture, std::int32_t Row)
     });
 }
 
-/// Takes the marker from the row that bears it to `row`; where it cannot be shown, MarkerRow stays.
-void TessellonSheet::MoveMarker(std::int32_t row)
+/// Takes the marker from the row that bears it to the current one; where it cannot be shown, MarkerRow stays.
+void TessellonSheet::MoveMarker()
 {
-    if (MarkerRow != -1 && MarkerRow != row)
+    if (MarkerRow != -1 && MarkerRow != CurrentRow)
         RefreshPicture(ptNone, MarkerRow);
-    if (MarkerRow != row && RefreshPicture(ptArrow, row))
-        MarkerRow = row;
+    if (MarkerRow != CurrentRow && RefreshPicture(ptArrow, CurrentRow))
+        MarkerRow = CurrentRow;
 }
 
 } // namespace Tessellon

@@ -23,7 +23,7 @@ void TessellonSheet::MSFlexGrid1_Click()
         HideEditorRequest = true;
         ShowEditorRequest = false;
         if (CurrentRow > 0 && CurrentCol > 0 && RowCount > 1 && ColCount > 1)
-            MoveMarker(CurrentRow);
+            MoveMarker();
         if (RowCount > 1 && ColCount > 1 && CurrentRow == RowCount - 1)
             VisibleArea();
         MSFlexGrid1_EnterCell();
