@@ -331,6 +331,52 @@ TEST_F(EndedSheet, AHandlerThatFailsBehindTheEnd_IsNotHeardOf)
     EXPECT_EQ(Sheet.TakeEventNames(), Lines{"LeaveCell"});
 }
 
+TEST_F(EndedSheet, AHandlerWithoutAFrameThatFailsBehindTheEnd_IsNotHeardOf)
+{
+    Sheet->KeyPress += [&](std::int16_t&) {
+        End();
+        throw Failure(1000, u"", u"");
+    };
+
+    Sheet.Type(u"a");
+
+    EXPECT_EQ(Sheet.TakeEventNames(), (Lines{"KeyDown", "KeyPress"}));
+}
+
+TEST_F(EndedSheet, WhileTheBoxOfALoadWithoutAConnectionIsUp_LetsNoFailureOut)
+{
+    Sheet.Toolkit->OnMessageBox = [&](std::u16string_view) { End(); };
+    const auto records = std::make_shared<TestRecordset>();
+    records->Records.emplace_back();
+    Sheet.Calls->FailAtMember(u"Recordset.MoveFirst", 7);
+
+    EXPECT_NO_THROW(Sheet->DataSource(records, nullptr));
+
+    EXPECT_EQ(Endings, 1);
+}
+
+TEST_F(EndedSheet, ByARecordsetThatThenFails_ShowsNoBox)
+{
+    class EndingRecords : public TestRecordset {
+    public:
+        std::function<void()> End;
+        void MoveFirst() override
+        {
+            End();
+            throw Failure(1000, u"", u"");
+        }
+    };
+    const auto records = std::make_shared<EndingRecords>();
+    records->Records.emplace_back();
+    records->End = [&] { End(); };
+
+    EXPECT_NO_THROW(Sheet->DataSource(records, nullptr));
+
+    EXPECT_EQ(Endings, 1);
+    EXPECT_EQ(Sheet.TakeEvents(), Lines{});
+    EXPECT_EQ(Sheet.Toolkit->Pointer, 0);
+}
+
 TEST_F(EndedSheet, CallsOnItInsideTheEvent_GiveDefaultResults)
 {
     bool asked = false;

@@ -227,6 +227,31 @@ TEST_F(Report, OfALoadWithoutTheBox_TellsTheConnectionsErrorsAndNotTheFailure)
     EXPECT_EQ(Sheet.TakeEvents(), Lines{ErrInfo(3, "only", "S", "p.hlp", 9)});
 }
 
+TEST_F(Report, OfALoadThatRaisesErrorsThatAreGoneBehindIt_TellsTheLastOfThem)
+{
+    /// Tells its errors once.
+    class ForgetfulConnection : public TestConnection {
+    public:
+        const std::vector<ProviderError>& Errors() override
+        {
+            told_ = std::exchange(Entries, {});
+            return told_;
+        }
+
+    private:
+        std::vector<ProviderError> told_;
+    };
+    Sheet->RaiseError(true);
+    Connection = std::make_shared<ForgetfulConnection>();
+    Connection->Entries = {Entry(0, u"none", u"S", 0, u""), Entry(2, u"second", u"S2", 0, u"")};
+    FailInLoad();
+    EXPECT_EQ(Sheet.TakeEvents(), Lines{ErrInfo(2, "second", "S2", "p.hlp", 9)});
+
+    Connection->Entries = {Entry(2, u"second", u"S2", 0, u""), Entry(0, u"none", u"S", 0, u"")};
+    FailInLoad();
+    EXPECT_EQ(Sheet.TakeEvents(), Lines{invalidRaise});
+}
+
 TEST_F(Report, OfALoadThatRaisesWithoutErrors_TellsTheRaiseThatFailed)
 {
     Sheet->RaiseError(true);
