@@ -134,7 +134,7 @@ void TessellonSheet::LoadCell(Recordset& recordset, std::int32_t row, std::int32
     if (column.cdControlType == fcMaskedEditBox && !column.cdUseMask)
         format = column.cdControlSettingString;
     const FieldClass fieldClass = ClassOf(recordset.FieldType(index));
-    const Value value = recordset.FieldValue(index);
+    const Value value = fieldClass == FieldClass::Other ? Value::Null() : recordset.FieldValue(index);
     switch (fieldClass) {
     case FieldClass::Boolean: MSFlexGrid1->TextMatrix(row, col, TruthOf(value) ? u"True" : u"False"); break;
     case FieldClass::Date:

@@ -145,7 +145,7 @@ TEST_F(EnteringACell, TopRowToRestore_IsSetAheadOfAllGuardsOnTheLastButOneRowsLa
     Forget();
     Members.GridReady = false;
     Members.PendingTopRow = 5;
-    EXPECT_EQ(CallsOfEntry().front(), "MSFlexGrid1.TopRow=5");
+    EXPECT_EQ(Only(CallsOfEntry(), {"MSFlexGrid1.TopRow"}), Lines{"MSFlexGrid1.TopRow=5"});
     EXPECT_EQ(Members.PendingTopRow, 0);
 }
 
