@@ -6,9 +6,9 @@
 namespace Orders {
 
 /// The orders that the example shows, in the order of its columns:
-/// number, customer, city, date, amount, currency, phone, paid, shipped, notes.
+/// number, customer, city, date, amount, currency, paid, shipped, phone, notes, and the key, which is hidden.
 inline constexpr const char* Query =
-    "SELECT id, customer, city, ordered, amount, currency, phone, paid, shipped, notes "
+    "SELECT id AS number, customer, city, ordered, amount, currency, paid, shipped, phone, notes, id "
     "FROM orders ORDER BY id";
 
 inline constexpr std::int64_t UsualCount = 2'000;

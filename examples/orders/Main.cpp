@@ -1,0 +1,144 @@
+#include "orders/BareLoopProcess.h"
+#include "orders/Options.h"
+#include "orders/OrdersDatabase.h"
+#include "orders/OrdersWindow.h"
+#include "orders/Picture.h"
+#include "orders/Source.h"
+#include "qt/SheetWidget.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QSaveFile>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <stdexcept>
+#include <string>
+
+namespace Orders {
+
+namespace {
+
+constexpr int cannotBeDone = 2;
+
+void PrintHelp()
+{
+    const std::string place = "@PROGRAM@";
+    std::string text = HelpText;
+    text.replace(text.find(place), place.size(), "orders");
+    std::fputs(text.c_str(), stdout);
+}
+
+/// What Qt says when it ends the program, in one line of our own.
+void SayFatal(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
+{
+    if (type == QtFatalMsg) {
+        std::fputs("orders: the display cannot be used; set DISPLAY to one that can, or draw by --picture FILE\n",
+                   stderr);
+        std::_Exit(cannotBeDone);
+    }
+    if (type == QtCriticalMsg)
+        std::fprintf(stderr, "orders: %s\n", message.toLocal8Bit().constData());
+}
+
+void ChooseDisplay(const Options& options)
+{
+    if (options.Picture) {
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        return;
+    }
+    const auto isSet = [](const char* variable) {
+        const char* value = std::getenv(variable);
+        return value != nullptr && *value != '\0';
+    };
+    if (!isSet("QT_QPA_PLATFORM") && !isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY"))
+        throw std::runtime_error("there is no display; start a desktop session, or draw by --picture FILE");
+}
+
+void SavePicture(const QImage& picture, const std::filesystem::path& path)
+{
+    QSaveFile file(QString::fromStdU16String(path.u16string()));
+    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, "PNG") || !file.commit())
+        throw std::runtime_error("--picture cannot write " + path.string() + ": " + file.errorString().toStdString());
+}
+
+std::string Megabytes(std::optional<std::int64_t> bytes)
+{
+    constexpr double megabyte = 1024 * 1024;
+    if (!bytes)
+        return "unknown";
+    return QLocale::c().toString(static_cast<double>(*bytes) / megabyte, 'f', 1).toStdString() + " MB";
+}
+
+void PrintCosts(double seconds, const BareLoopCost& bare)
+{
+    std::printf("%-12s %10s %12s\n", "", "load", "peak memory");
+    std::printf("%-12s %8.3f s %12s\n", "this program", seconds, Megabytes(PeakMemory()).c_str());
+    std::printf("%-12s %8.3f s %12s\n", "bare loop", bare.Result.Seconds, Megabytes(bare.PeakMemory).c_str());
+    std::printf("%-12s %8.2f x  for %lld orders; the loop walks the query twice and reads every field once as text\n",
+                "", seconds / bare.Result.Seconds, static_cast<long long>(bare.Result.Rows));
+}
+
+int Draw(OrdersWindow& window, const Source& source, const Options& options, const BareLoopCost& bare)
+{
+    // Nobody could close a message box.
+    window.Sheet().ShowErrMessage(false);
+    window.show();
+    const double seconds = window.Load(source);
+    if (!window.LoadFailure().empty())
+        throw std::runtime_error("cannot read " + source.Path.string() + ": " + window.LoadFailure());
+    const QImage picture = PictureOfAnEdit(window);
+    window.Log().WriteCells();
+    SavePicture(picture, *options.Picture);
+    PrintCosts(seconds, bare);
+    return EXIT_SUCCESS;
+}
+
+int Open(OrdersWindow& window, const Source& source)
+{
+    window.show();
+    window.Load(source);
+    const int status = QApplication::exec();
+    window.Log().WriteCells();
+    return status;
+}
+
+int Run(int argc, char** argv)
+{
+    const Options options = ParseOptions(argc, argv);
+    if (options.Help) {
+        PrintHelp();
+        return EXIT_SUCCESS;
+    }
+    ChooseDisplay(options);
+    CheckPlaces(options);
+    const Source source = OpenSource(options);
+    BareLoopCost bare;
+    if (options.Picture)
+        bare = RunBareLoopApart(source.Path, Query);
+
+    // The arguments are ours alone.
+    int own = 1;
+    qInstallMessageHandler(SayFatal);
+    QApplication application(own, argv);
+    QApplication::setApplicationDisplayName(QStringLiteral("Orders"));
+    OrdersWindow window;
+    if (options.Log)
+        window.Log().WriteInto(*options.Log);
+    return options.Picture ? Draw(window, source, options, bare) : Open(window, source);
+}
+
+} // namespace
+
+} // namespace Orders
+
+int main(int argc, char** argv)
+{
+    try {
+        return Orders::Run(argc, argv);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "orders: %s\n", failure.what());
+        return Orders::cannotBeDone;
+    }
+}

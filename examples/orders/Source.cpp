@@ -1,0 +1,100 @@
+#include "orders/Source.h"
+
+#include "orders/OrdersDatabase.h"
+#include "platform/Failure.h"
+#include "recordset/sqlite/SqliteConnection.h"
+#include "recordset/sqlite/SqliteRecordset.h"
+#include "recordset/sqlite/Unicode.h"
+
+#include <cstdlib>
+#include <sqlite3.h>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace Orders {
+
+namespace {
+
+/// $XDG_CACHE_HOME, or ~/.cache where that says nothing.
+std::filesystem::path CacheFolder()
+{
+    const auto valueOf = [](const char* variable) {
+        const char* value = std::getenv(variable);
+        return std::filesystem::path(value != nullptr ? value : "");
+    };
+    if (std::filesystem::path cache = valueOf("XDG_CACHE_HOME"); cache.is_absolute())
+        return cache / "tessellon";
+    if (std::filesystem::path home = valueOf("HOME"); home.is_absolute())
+        return home / ".cache" / "tessellon";
+    throw std::runtime_error("no folder for the orders: set HOME or XDG_CACHE_HOME, or name a database by --database");
+}
+
+/// The same count gives the same orders, so one that stands there already is replaced by its like.
+std::filesystem::path MadeDatabase(std::int64_t rows)
+{
+    const std::filesystem::path folder = CacheFolder();
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error)
+        throw std::runtime_error("cannot make the folder " + folder.string() + ": " + error.message() +
+                                 "; set XDG_CACHE_HOME, or name a database by --database");
+    std::filesystem::path path = folder / ("orders-" + std::to_string(rows) + ".db");
+    MakeDatabase(path, rows);
+    return path;
+}
+
+/// What to do, behind SQLite's own words.
+std::string Advice(int code)
+{
+    switch (code & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: return "another program has locked it; end that one, then try again";
+    case SQLITE_NOTADB: return "name a SQLite database with a table of orders";
+    case SQLITE_ERROR: return "name a database with a table of orders like the one that --rows makes";
+    default: return "name another file, or leave --database out";
+    }
+}
+
+void CheckFile(const std::filesystem::path& path)
+{
+    std::error_code error;
+    const auto refuse = [&](const std::string& why) {
+        throw std::runtime_error("cannot read " + path.string() + ": " + why +
+                                 "; name another file, or leave --database out");
+    };
+    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    if (!std::filesystem::exists(status))
+        refuse(status.type() == std::filesystem::file_type::not_found ? "there is no such file" : error.message());
+    if (!std::filesystem::is_regular_file(status))
+        refuse(std::filesystem::is_directory(status) ? "it is a folder" : "it is no ordinary file");
+    if (std::filesystem::file_size(path, error) == 0)
+        refuse("it is empty");
+}
+
+} // namespace
+
+Source OpenSource(const Options& options)
+{
+    Source source;
+    if (options.Database)
+        CheckFile(*options.Database);
+    source.Path = options.Database ? *options.Database : MadeDatabase(options.Rows.value_or(UsualCount));
+    source.Connection = std::make_shared<Tessellon::SqliteConnection>();
+    try {
+        source.Connection->Connect(source.Path.u16string());
+        source.Records = source.Connection->Query(Tessellon::Sqlite::ToUtf16(Query));
+    } catch (const Tessellon::Failure& failure) {
+        const auto& errors = source.Connection->Errors();
+        std::string words = Tessellon::Sqlite::ToUtf8(failure.Description);
+        // Of a file that does not open, the path stands there already.
+        if (const std::size_t at = words.find(": " + source.Path.string()); at != std::string::npos)
+            words.resize(at);
+        throw std::runtime_error("cannot read " + source.Path.string() + ": " + words + "; " +
+                                 Advice(errors.empty() ? 0 : errors.front().NativeError));
+    }
+    return source;
+}
+
+} // namespace Orders
