@@ -58,8 +58,9 @@ void ChooseDisplay(const Options& options)
 
 void SavePicture(const QImage& picture, const std::filesystem::path& path)
 {
+    constexpr int bestCompression = 0;
     QSaveFile file(QString::fromStdU16String(path.u16string()));
-    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, "PNG") || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, "PNG", bestCompression) || !file.commit())
         throw std::runtime_error("--picture cannot write " + path.string() + ": " + file.errorString().toStdString());
 }
 
