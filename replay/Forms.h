@@ -48,8 +48,8 @@ struct Argument<std::optional<Value>> {
 };
 
 template <class Function, class... Values, std::size_t... Indexes>
-Form MakeForm(std::u16string_view name, Function function, void (Function::*)(Runner&, Values...) const,
-              std::index_sequence<Indexes...>)
+Form MakeForm(std::u16string_view name, Function function, void (Function::* /*call*/)(Runner&, Values...) const,
+              std::index_sequence<Indexes...> /*indexes*/)
 {
     const auto read = [function]([[maybe_unused]] Words words) -> Action {
         std::tuple values{Argument<std::remove_cvref_t<Values>>::From(words, Indexes)...};

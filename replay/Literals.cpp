@@ -202,7 +202,7 @@ std::optional<DecimalDigits> ReadNumber(const Word& word)
     const std::u16string_view text = word.Bare;
     if (text.starts_with(u"0x") || text.starts_with(u"&H"))
         return ReadHexadecimal(text.substr(2));
-    if (const auto constant = Find(constants, text); constant != constants.end())
+    if (const auto* const constant = Find(constants, text); constant != constants.end())
         return DecimalDigits::OfInteger(static_cast<std::int32_t>(constant->second));
     DecimalDigits digits;
     return ReadDecimal(text, digits) ? std::optional(digits) : std::nullopt;
@@ -337,7 +337,7 @@ ModifierLiteral ReadAs(const Word& word)
     for (bool isLast = false; !isLast;) {
         const std::size_t plus = rest.find(u'+');
         isLast = plus == std::u16string_view::npos;
-        const auto name = Find(names, rest.substr(0, plus));
+        const auto* const name = Find(names, rest.substr(0, plus));
         if (name == names.end() || (sum & name->second) != 0 || !word.IsBare())
             Refuse(word, "Shift, Ctrl and Alt with a + between");
         sum += static_cast<int>(name->second);

@@ -6,6 +6,8 @@
 
 #include <unistd.h>
 
+#include <array>
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -59,10 +61,10 @@ std::optional<std::string> TextOf(std::FILE* file)
     if (file == nullptr)
         return std::nullopt;
     std::string text;
-    char piece[65536];
-    for (std::size_t size = sizeof piece; size == sizeof piece;) {
-        size = std::fread(piece, 1, sizeof piece, file);
-        text.append(piece, size);
+    std::array<char, 65536> piece{};
+    for (std::size_t size = piece.size(); size == piece.size();) {
+        size = std::fread(piece.data(), 1, piece.size(), file);
+        text.append(piece.data(), size);
     }
     return std::ferror(file) == 0 ? std::optional(std::move(text)) : std::nullopt;
 }
