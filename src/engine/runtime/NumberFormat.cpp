@@ -197,7 +197,7 @@ private:
         char* const end = std::to_chars(text.data(), text.data() + text.size(), size).ptr;
         for (std::int64_t figures = end - text.data(); figures < plan_.ExponentFigures; ++figures)
             out_.push_back(u'0');
-        out_.append(text.data(), end);
+        AppendAscii(out_, {text.data(), end});
     }
 
     std::u16string& out_;

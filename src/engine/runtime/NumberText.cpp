@@ -154,11 +154,6 @@ struct NumberMarks {
     bool TakeClosing(NumberReader& reader) { return Opened && !Closed && reader.Take(u')') && (Closed = true); }
 };
 
-void AppendAscii(std::u16string& out, std::string_view text)
-{
-    out.append(text.begin(), text.end());
-}
-
 void AppendScientific(std::u16string& out, const DecimalDigits& digits, char16_t decimalSeparator)
 {
     if (digits.Negative)
@@ -271,6 +266,14 @@ bool ReadDecimal(std::u16string_view text, DecimalDigits& digits)
         return false;
     digits.Normalize();
     return true;
+}
+
+void AppendAscii(std::u16string& out, std::string_view text)
+{
+    // Appending the range of another character type would go by way of a string of its own.
+    const std::size_t begin = out.size();
+    out.resize(begin + text.size());
+    std::copy(text.begin(), text.end(), out.begin() + static_cast<std::ptrdiff_t>(begin));
 }
 
 void AppendPlain(std::u16string& out, const DecimalDigits& digits, char16_t decimalSeparator)

@@ -19,6 +19,8 @@ bool ReadPlainNumber(std::u16string_view text, char16_t decimalSeparator, double
 /// Reads the digits of a decimal as a source gives them: sign, digits, point, exponent. False where it is none.
 bool ReadDecimal(std::u16string_view text, DecimalDigits& digits);
 
+/// Appends figures and signs of ASCII.
+void AppendAscii(std::u16string& out, std::string_view text);
 /// Appends the number in full, without exponent and trailing zeros.
 void AppendPlain(std::u16string& out, const DecimalDigits& digits, char16_t decimalSeparator);
 /// Appends a 64-bit float: 15 digits, an exponent from 1E15 on and below 0.0001.

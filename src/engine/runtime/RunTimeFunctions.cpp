@@ -35,7 +35,7 @@ void AppendInteger(std::u16string& out, Whole number)
 {
     std::array<char, 24> text;
     char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    out.append(text.data(), end);
+    AppendAscii(out, {text.data(), end});
 }
 
 /// False for what has no digits: a float that is not finite, a decimal that cannot be read.
