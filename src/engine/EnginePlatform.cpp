@@ -48,10 +48,9 @@ void EnginePlatform::RaiseChild(Child child, ChildEvent event, EventArguments& a
 
 void EnginePlatform::EnabledChanged()
 {
+    // A grid that has the focus keeps it while it is disabled, and is deaf to keys.
     if (grid_.Enabled())
         focus_.GridEnabled();
-    else
-        focus_.TakenDown(gridInput_);
 }
 
 void EnginePlatform::Resize(float width, float height)

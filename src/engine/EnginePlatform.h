@@ -84,6 +84,7 @@ private:
         }
         [[nodiscard]] std::u16string_view ControlName() const override { return u"MSFlexGrid1"; }
         [[nodiscard]] bool CanHaveFocus() const override { return Owner.grid_.Enabled(); }
+        [[nodiscard]] bool IsDeaf() const override { return !Owner.grid_.Enabled(); }
         void Raise(ChildEvent event, EventArguments& arguments) override
         {
             Owner.RaiseChild(Child::MSFlexGrid1, event, arguments);

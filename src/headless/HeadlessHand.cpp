@@ -27,6 +27,18 @@ bool HeadlessHand::IsThere(std::int32_t row, std::int32_t col) const
     return row >= 0 && col >= 0 && row < grid.Rows() && col < grid.Cols();
 }
 
+/// A failure in the press takes the release with it: the button is up again behind it.
+template <class Action>
+void HeadlessHand::PressAndRelease(const Action& action)
+{
+    try {
+        action(platform_->TheGrid());
+    } catch (...) {
+        platform_->TheGrid().AbandonPress();
+        throw;
+    }
+}
+
 bool HeadlessHand::ClickCell(GridCell cell)
 {
     GridEngine& grid = platform_->TheGrid();
@@ -40,29 +52,31 @@ bool HeadlessHand::ClickCell(GridCell cell)
 
 void HeadlessHand::Click(std::int32_t row, std::int32_t col)
 {
-    InFront([&] { ClickCell({row, col}); });
+    InFront([&] { PressAndRelease([&](GridEngine& /*grid*/) { ClickCell({row, col}); }); });
 }
 
 void HeadlessHand::DoubleClick(std::int32_t row, std::int32_t col)
 {
     InFront([&] {
-        GridEngine& grid = platform_->TheGrid();
-        if (ClickCell({row, col}) && IsThere(row, col) && grid.DoublePressCell({row, col}))
-            grid.ReleaseHere();
+        PressAndRelease([&](GridEngine& grid) {
+            if (ClickCell({row, col}) && IsThere(row, col) && grid.DoublePressCell({row, col}))
+                grid.ReleaseHere();
+        });
     });
 }
 
 void HeadlessHand::Drag(std::int32_t row, std::int32_t col, std::int32_t toRow, std::int32_t toCol)
 {
     InFront([&] {
-        GridEngine& grid = platform_->TheGrid();
-        if (!IsThere(row, col) || !IsThere(toRow, toCol) || !grid.Enabled())
-            return;
-        grid.ScrollIntoView({row, col});
-        if (!grid.PressCell({row, col}))
-            return;
-        grid.DragToCell({toRow, toCol});
-        grid.ReleaseHere();
+        PressAndRelease([&](GridEngine& grid) {
+            if (!IsThere(row, col) || !IsThere(toRow, toCol) || !grid.Enabled())
+                return;
+            grid.ScrollIntoView({row, col});
+            if (!grid.PressCell({row, col}))
+                return;
+            grid.DragToCell({toRow, toCol});
+            grid.ReleaseHere();
+        });
     });
 }
 

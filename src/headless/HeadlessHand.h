@@ -45,6 +45,8 @@ private:
     /// What the user does with his window in front.
     template <class Action>
     void InFront(const Action& action);
+    template <class Action>
+    void PressAndRelease(const Action& action);
     [[nodiscard]] bool IsInSheet(float x, float y) const;
     [[nodiscard]] bool IsThere(std::int32_t row, std::int32_t col) const;
     bool ClickCell(GridCell cell); ///< False for a cell that is not there, or a grid that takes no press.

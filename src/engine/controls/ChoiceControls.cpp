@@ -140,6 +140,10 @@ void ComboBoxControl::EditedInWidget(std::u16string_view text, std::int32_t care
 
 void ComboBoxControl::KeyMeans(std::int16_t keyCode, std::int16_t shift, bool /*takenDown*/)
 {
+    const bool isUpOrDown = keyCode == KeyCode::Down || keyCode == KeyCode::Up;
+    // With Alt they open the list, where there is one.
+    if (isUpOrDown && (shift & Modifier::Alt) != 0 && surroundings_.KeyInWidget(*this, keyCode, shift))
+        return;
     if (keyCode == KeyCode::Down) {
         TextBecame(state_.Down(), ChildEvent::Click);
     } else if (keyCode == KeyCode::Up) {

@@ -31,6 +31,8 @@ bool ControlCore::HasFocus() const
 
 void ControlCore::Raise(ChildEvent event, EventArguments& arguments)
 {
+    if (retired_)
+        return;
     arguments.Index = index_;
     surroundings_.RaiseChild(child_, event, arguments);
 }
@@ -50,6 +52,7 @@ void ControlCore::Tell(ChildEvent event, const EventArguments& mouse)
 /// A handler of the loss of focus may bring the control up again: what was taken down stays down, in silence.
 void ControlCore::TakenDown(bool& state)
 {
+    const std::shared_ptr<const void> alive = Alive();
     ++timesTakenDown_;
     surroundings_.TheFocus().TakenDown(*this);
     if (!state)
@@ -79,8 +82,10 @@ void ControlCore::SetEnabled(bool enabled)
         return;
     enabled_ = enabled;
     Show(Aspect::Enabled);
-    if (!enabled)
+    if (!enabled) {
+        BecameDisabled();
         TakenDown(enabled_);
+    }
 }
 
 void ControlCore::SetOrder(std::int16_t position)
@@ -134,6 +139,7 @@ void ControlCore::AskForFocus()
 
 bool ControlCore::PressMouse(const EventArguments& mouse)
 {
+    const std::shared_ptr<const void> alive = Alive();
     if (!surroundings_.TheFocus().Press(*this))
         return false;
     Tell(ChildEvent::MouseDown, mouse);
@@ -148,6 +154,7 @@ void ControlCore::MoveMouse(const EventArguments& mouse)
 void ControlCore::ReleaseMouse(const EventArguments& mouse, bool inside)
 {
     constexpr std::int16_t leftButton = 1;
+    const std::shared_ptr<const void> alive = Alive();
     Tell(ChildEvent::MouseUp, mouse);
     if (inside && mouse.Button == leftButton && CanHaveFocus())
         PressMeans();

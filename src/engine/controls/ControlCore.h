@@ -4,6 +4,7 @@
 #include "platform/Font.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -43,7 +44,7 @@ public:
 };
 
 /// The state that all editors share, without a toolkit: a toolkit shows it and hands the user's doing in.
-class ControlCore : public InputControl {
+class ControlCore : public InputControl, public std::enable_shared_from_this<ControlCore> {
 public:
     struct Rectangle {
         float Left = 0;
@@ -87,6 +88,8 @@ public:
     [[nodiscard]] std::u16string_view ControlName() const override { return name_; }
     [[nodiscard]] bool CanHaveFocus() const override { return visible_ && enabled_; }
     [[nodiscard]] unsigned TimesTakenDown() const override { return timesTakenDown_; }
+    [[nodiscard]] std::shared_ptr<const void> Alive() const override { return weak_from_this().lock(); }
+    /// One that was unloaded has nothing more to tell.
     void Raise(ChildEvent event, EventArguments& arguments) override;
 
 protected:
@@ -103,6 +106,7 @@ protected:
 
     virtual void BecameVisible() {}
     virtual void BecameHidden() {}
+    virtual void BecameDisabled() {}
     virtual void FontChanged() {}
     /// What a press with the mouse means, behind MouseUp.
     virtual void PressMeans() {}

@@ -143,7 +143,7 @@ void PickerControl::KeyMeans(std::int16_t keyCode, std::int16_t shift, bool take
     if (takenDown)
         return;
     const bool alt = (shift & Modifier::Alt) != 0;
-    if (keyCode == KeyCode::F4 || (alt && keyCode == KeyCode::Down)) {
+    if (keyCode == (alt ? KeyCode::Down : KeyCode::F4)) {
         Show(Aspect::Calendar);
         return;
     }
@@ -160,9 +160,9 @@ void PickerControl::KeyMeans(std::int16_t keyCode, std::int16_t shift, bool take
         Take(fields_.Press(*key));
 }
 
-void PickerControl::TakeUp(char16_t character, std::int16_t /*shift*/)
+void PickerControl::TakeUp(char16_t character, std::int16_t shift)
 {
-    if (!calendarOpen_ && !fields_.IsCallbackField())
+    if ((shift & Modifier::Alt) == 0 && !calendarOpen_ && !fields_.IsCallbackField())
         Take(fields_.Type(character));
 }
 

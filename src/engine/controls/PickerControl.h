@@ -42,6 +42,7 @@ public:
 protected:
     void BecameVisible() override { Assemble(); }
     void BecameHidden() override;
+    void BecameDisabled() override { DropCalendar(); }
     void PressMeans() override;
 
 private:

@@ -98,6 +98,14 @@ public:
     void Move(float left, float top, float width, float height) override;
     float Height() override { return height_; }
 
+    /// The custom sort: puts the data rows into the order that the host gives them, through Compare. It is raised once
+    /// for each pair that is compared, with the numbers of both rows, which are all still at their places; Cmp comes
+    /// back -1 (below 0) for a Row1 that goes first, 0 for two rows that keep their order, 1 (above 0) for a Row2 that
+    /// goes first. Rows go with their texts, colours, pictures and heights; the cursor stays on its row number, and no
+    /// cell event is raised. Nothing is moved when a failure leaves the handler, or when it adds or removes rows or
+    /// columns, which ends the sort.
+    void SortByCompare();
+
     // ---- What the user does. A disabled grid takes none of it. A failure that leaves a handler leaves these. --------
 
     /// A button goes down. The cell is the one at the position once the grid has the focus. False: the press was lost,
@@ -191,6 +199,8 @@ private:
     void PullCursor();
     template <typename Change>
     void ChangeCells(Change change);
+    [[nodiscard]] bool GoesBehind(std::int32_t row, std::int32_t other);
+    void PutRows(const std::vector<std::int32_t>& order);
 
     // Cursor
     void Raise(ChildEvent event);

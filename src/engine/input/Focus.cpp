@@ -66,11 +66,11 @@ void Focus::GiveBack()
 {
     if (leaving_)
         givenBack_ = true;
-    else
+    else if (!inside_)
         Set(grid_);
 }
 
-void Focus::LeaveToGrid(InputControl& control)
+void Focus::ClaimGoesToGrid(InputControl& control)
 {
     if (noted_ == &control)
         noted_ = &grid_;
@@ -80,7 +80,7 @@ void Focus::LeaveToGrid(InputControl& control)
 
 void Focus::TakenDown(InputControl& control)
 {
-    LeaveToGrid(control);
+    ClaimGoesToGrid(control);
     // While the sheet is being left the control keeps what it is about to lose anyway.
     if (holder_ == &control && !leaving_)
         Give(grid_);
@@ -88,7 +88,7 @@ void Focus::TakenDown(InputControl& control)
 
 void Focus::TakenDownAgain(InputControl& control)
 {
-    LeaveToGrid(control);
+    ClaimGoesToGrid(control);
     if (holder_ != &control || leaving_)
         return;
     const bool toGrid = grid_.CanHaveFocus();
@@ -106,7 +106,7 @@ void Focus::Forget(InputControl& control)
 
 void Focus::GridEnabled()
 {
-    if (owedToGrid_ && windowInFront_ && grid_.CanHaveFocus())
+    if (owedToGrid_ && windowInFront_ && !leaving_ && grid_.CanHaveFocus())
         Move(grid_);
 }
 
@@ -192,6 +192,8 @@ void Focus::LeaveSheet()
         Give(*wanted);
     else if (holder_ != nullptr && !holder_->CanHaveFocus())
         Give(grid_);
+    else
+        GridEnabled();
 }
 
 void Focus::EnterSheet()
@@ -208,9 +210,9 @@ void Focus::WindowOut()
         return;
     if (holder_ != nullptr)
         holder_->TakePending(nullptr);
+    if (!windowInFront_)
+        return;
     windowInFront_ = false;
-    if (inside_)
-        noted_ = nullptr;
     InputControl* const old = std::exchange(holder_, nullptr);
     heldLast_ = old;
     frame_.Moved();
@@ -224,7 +226,8 @@ void Focus::WindowIn()
         return;
     windowInFront_ = true;
     InputControl* wanted = std::exchange(heldLast_, nullptr);
-    if (noted_ != nullptr && (inside_ || grabsFocus_))
+    // While the sheet is being left, who is noted waits for the leaving to be refused.
+    if (noted_ != nullptr && !leaving_ && (inside_ || grabsFocus_))
         wanted = std::exchange(noted_, nullptr);
     if (wanted != nullptr)
         Give(*wanted);

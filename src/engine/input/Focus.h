@@ -27,7 +27,7 @@ public:
     // What code does.
     void Set(InputControl& control); ///< A hidden or disabled editor: failure 5.
     void GiveBack(); ///< The component asks for it back while it is leaving.
-    void TakenDown(InputControl& control); ///< The control was just hidden or disabled.
+    void TakenDown(InputControl& control); ///< The editor was just hidden or disabled.
     void TakenDownAgain(InputControl& control); ///< The same in silence, behind a handler that brought it up again.
     void Forget(InputControl& control); ///< The control is about to go for good.
     void GridEnabled(); ///< A focus that is owed to the grid is given.
@@ -42,7 +42,7 @@ public:
 private:
     void Move(InputControl& control);
     void Give(InputControl& control);
-    void LeaveToGrid(InputControl& control);
+    void ClaimGoesToGrid(InputControl& control);
     void Tell(InputControl& control, ChildEvent event);
     bool MayLeave();
     void Drop();

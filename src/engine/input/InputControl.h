@@ -4,6 +4,7 @@
 #include "platform/Events.h"
 
 #include <cstdint>
+#include <memory>
 #include <string_view>
 
 namespace Tessellon {
@@ -17,6 +18,10 @@ public:
     [[nodiscard]] virtual bool CanHaveFocus() const = 0; ///< Visible and enabled.
     /// Whether its Validate is raised when the user takes the focus away.
     [[nodiscard]] virtual bool IsValidated() const { return false; }
+    /// Has the focus, or may have it, and takes no keys all the same.
+    [[nodiscard]] virtual bool IsDeaf() const { return false; }
+    /// Keeps the control in being as long as it is held: a handler may do away with the control that told it.
+    [[nodiscard]] virtual std::shared_ptr<const void> Alive() const { return nullptr; }
     /// Grows each time the control is hidden or disabled.
     [[nodiscard]] virtual unsigned TimesTakenDown() const { return 0; }
 

@@ -12,13 +12,20 @@ bool BelongsToKey(char16_t character)
 
 } // namespace
 
+InputControl* Keys::Listener() const
+{
+    InputControl* const holder = focus_.Holder();
+    return holder == nullptr || holder->IsDeaf() ? nullptr : holder;
+}
+
 bool Keys::Down(const Stroke& stroke)
 {
     if (focus_.Holder() != nullptr)
         focus_.Holder()->TakePending(&stroke);
-    InputControl* const told = focus_.Holder();
+    InputControl* const told = Listener();
     if (told == nullptr)
         return true;
+    const std::shared_ptr<const void> alive = told->Alive();
     const unsigned before = told->TimesTakenDown();
     EventArguments arguments;
     arguments.KeyCode = stroke.Code;
@@ -26,6 +33,8 @@ bool Keys::Down(const Stroke& stroke)
     told->Raise(ChildEvent::KeyDown, arguments);
     // A key without a code has the code 0 from the start: nobody can have eaten it.
     if (arguments.KeyCode == 0 && stroke.Code != 0)
+        return false;
+    if (told->IsDeaf())
         return false;
     told->KeyMeans(arguments.KeyCode, arguments.Shift, told->TimesTakenDown() != before);
     if (stroke.HasCharacter)
@@ -35,7 +44,7 @@ bool Keys::Down(const Stroke& stroke)
 
 void Keys::Character(char16_t character, std::int16_t shift)
 {
-    InputControl* const told = focus_.Holder();
+    InputControl* const told = Listener();
     if (told == nullptr)
         return;
     EventArguments arguments;
@@ -48,7 +57,7 @@ void Keys::Character(char16_t character, std::int16_t shift)
 
 void Keys::Up(const Stroke& stroke)
 {
-    InputControl* const told = focus_.Holder();
+    InputControl* const told = Listener();
     if (told == nullptr)
         return;
     EventArguments arguments;

@@ -20,6 +20,7 @@ public:
     void Type(char16_t character);
 
 private:
+    [[nodiscard]] InputControl* Listener() const; ///< Who hears of keys; null for nobody.
     void Character(char16_t character, std::int16_t shift);
 
     Focus& focus_;
