@@ -21,12 +21,7 @@ Control& Instance(ControlArray<Kind>& array, std::int16_t index)
 } // namespace
 
 PlatformContract::PlatformContract()
-    : PlatformContract(GetParam().Make())
-{
-}
-
-PlatformContract::PlatformContract(std::unique_ptr<PlatformUnderTest> platform)
-    : Under(std::move(platform))
+    : Under(TheFactory().Make())
 {
     Engine().Resize(9600, 4800);
     Cells().Move(0, 0, 9600, 4800);

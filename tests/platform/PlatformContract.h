@@ -17,10 +17,9 @@ namespace Tessellon::Contract {
 /// What every toolkit's platform has to do, told by an event sink that plays the sheet. The grid has five columns and
 /// twenty rows, the cursor on cell (1, 1), and fills a sheet of 9600 x 4800 twips; the focus is outside, the window in
 /// front, every editor is down.
-class PlatformContract : public ::testing::TestWithParam<PlatformFactory> {
+class PlatformContract : public ::testing::Test {
 protected:
     PlatformContract();
-    explicit PlatformContract(std::unique_ptr<PlatformUnderTest> platform);
     ~PlatformContract() override;
 
     EnginePlatform& Engine() { return Under->Engine(); }
@@ -85,9 +84,11 @@ inline std::string PlatformName(const ::testing::TestParamInfo<PlatformFactory>&
     return info.param.Name;
 }
 
+// clang-format off
 /// The suite of one theme, for the platform that this program tries.
-#define CONTRACT_SUITE(Theme)                                                                                          \
-    class Theme : public PlatformContract {};                                                                          \
+#define CONTRACT_SUITE(Theme) \
+    class Theme : public PlatformContract, public ::testing::WithParamInterface<PlatformFactory> {}; \
     INSTANTIATE_TEST_SUITE_P(On, Theme, ::testing::Values(TheFactory()), PlatformName)
+// clang-format on
 
 } // namespace Tessellon::Contract
