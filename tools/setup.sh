@@ -17,6 +17,7 @@ test=(
     xvfb              # a display for the tests of real windows
     openbox           # their window manager: without one the focus never comes back from a box
     xdotool           # their keyboard and mouse
+    python3           # plays the users and callers of the example
     clang-format      # the layout of the sources
 )
 

@@ -81,8 +81,35 @@ void PrintCosts(double seconds, const BareLoopCost& bare)
                 "", seconds / bare.Result.Seconds, static_cast<long long>(bare.Result.Rows));
 }
 
-int Draw(OrdersWindow& window, const Source& source, const Options& options, const BareLoopCost& bare)
+/// The arguments are all ours: Qt gets none. Ends the program where there is no display to draw on.
+class Desktop {
+public:
+    explicit Desktop(char** arguments)
+        : handler_(qInstallMessageHandler(SayFatal))
+        , application_(count_, arguments)
+    {
+        QApplication::setApplicationDisplayName(QStringLiteral("Orders"));
+    }
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    ~Desktop() { qInstallMessageHandler(handler_); }
+
+private:
+    int count_ = 1;
+    QtMessageHandler handler_;
+    QApplication application_;
+};
+
+void Draw(const Options& options, char** arguments)
 {
+    const Source source = OpenSource(options);
+    // Ahead of the desktop, which has threads.
+    const BareLoopCost bare = RunBareLoopApart(source.Path, Query);
+
+    const Desktop desktop(arguments);
+    OrdersWindow window;
+    if (options.Log)
+        window.Log().WriteInto(*options.Log);
     // Nobody could close a message box.
     window.Sheet().ShowErrMessage(false);
     window.show();
@@ -93,11 +120,15 @@ int Draw(OrdersWindow& window, const Source& source, const Options& options, con
     window.Log().WriteCells();
     SavePicture(picture, *options.Picture);
     PrintCosts(seconds, bare);
-    return EXIT_SUCCESS;
 }
 
-int Open(OrdersWindow& window, const Source& source)
+int Show(const Options& options, char** arguments)
 {
+    const Desktop desktop(arguments);
+    const Source source = OpenSource(options);
+    OrdersWindow window;
+    if (options.Log)
+        window.Log().WriteInto(*options.Log);
     window.show();
     window.Load(source);
     const int status = QApplication::exec();
@@ -105,39 +136,29 @@ int Open(OrdersWindow& window, const Source& source)
     return status;
 }
 
-int Run(int argc, char** argv)
+int Run(int count, char** arguments)
 {
-    const Options options = ParseOptions(argc, argv);
+    const Options options = ParseOptions(count, arguments);
     if (options.Help) {
         PrintHelp();
         return EXIT_SUCCESS;
     }
     ChooseDisplay(options);
     CheckPlaces(options);
-    const Source source = OpenSource(options);
-    BareLoopCost bare;
-    if (options.Picture)
-        bare = RunBareLoopApart(source.Path, Query);
-
-    // The arguments are ours alone.
-    int own = 1;
-    qInstallMessageHandler(SayFatal);
-    QApplication application(own, argv);
-    QApplication::setApplicationDisplayName(QStringLiteral("Orders"));
-    OrdersWindow window;
-    if (options.Log)
-        window.Log().WriteInto(*options.Log);
-    return options.Picture ? Draw(window, source, options, bare) : Open(window, source);
+    if (!options.Picture)
+        return Show(options, arguments);
+    Draw(options, arguments);
+    return EXIT_SUCCESS;
 }
 
 } // namespace
 
 } // namespace Orders
 
-int main(int argc, char** argv)
+int main(int count, char** arguments)
 {
     try {
-        return Orders::Run(argc, argv);
+        return Orders::Run(count, arguments);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "orders: %s\n", failure.what());
         return Orders::cannotBeDone;
