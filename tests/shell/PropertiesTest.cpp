@@ -362,9 +362,9 @@ TEST_F(Properties, ColWidthOfAHiddenColumn_IsIgnored)
 
 TEST_F(Properties, DateFormat_IsTrimmedAndGoesToThePicker)
 {
-    EXPECT_EQ(CallsOf([&] { Sheet->DateFormat(u"  yyyy-MM-dd "); }),
-              (Lines{"DTPicker1.Format=3", "DTPicker1.CustomFormat=\"yyyy-MM-dd\"",
-                     "DTPicker1.DataFormat=\"yyyy-MM-dd\""}));
+    EXPECT_EQ(
+        CallsOf([&] { Sheet->DateFormat(u"  yyyy-MM-dd "); }),
+        (Lines{"DTPicker1.Format=3", "DTPicker1.CustomFormat=\"yyyy-MM-dd\"", "DTPicker1.DataFormat=\"yyyy-MM-dd\""}));
     EXPECT_EQ(Members.DateFormatText, u"yyyy-MM-dd");
 }
 

@@ -46,6 +46,21 @@ struct SheetProbe {
     void IncrementCell(std::int16_t colStep, std::int16_t rowStep) { Sheet.IncrementCell(colStep, rowStep); }
     bool IsFunctionKey(std::int16_t code) { return Sheet.IsFunctionKey(code); }
 
+    // Columns.
+    void InitializeArray() { Sheet.InitializeArray(); }
+    void ReConstructArray(std::int32_t oldCount, std::int32_t newCount) { Sheet.ReConstructArray(oldCount, newCount); }
+    void GetRecSize(std::int32_t& fields, std::int32_t& records) { Sheet.GetRecSize(fields, records); }
+
+    // The view.
+    void GetVisibleRows() { Sheet.GetVisibleRows(); }
+    bool VisibleArea() { return Sheet.VisibleArea(); }
+    bool IsVerticalScroll(std::int32_t from, std::int32_t to) { return Sheet.IsVerticalScroll(from, to); }
+    bool IsHorizontalScroll(std::int32_t from, std::int32_t to) { return Sheet.IsHorizontalScroll(from, to); }
+    bool IsBothScroll() { return Sheet.IsBothScroll(); }
+    void RefreshGridColor(std::int32_t fromRow, std::int32_t keepCol) { Sheet.RefreshGridColor(fromRow, keepCol); }
+    void RefreshSectionColor(bool even) { Sheet.RefreshSectionColor(even); }
+    bool RefreshPicture(PictureType picture, std::int32_t row) { return Sheet.RefreshPicture(picture, row); }
+
     /// Tells the sheet an event of a child, as its platform does.
     void Raise(Child child, ChildEvent event, EventArguments& arguments) { Sheet.Raise(child, event, arguments); }
     void Raise(Child child, ChildEvent event)
