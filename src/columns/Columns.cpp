@@ -55,8 +55,8 @@ void TessellonSheet::InitializeArray()
 {
     Armed(u"InitializeArray", [&] {
         ColumnData.assign(static_cast<std::size_t>(ColumnBound) + 1, {});
-        ColumnData[0].cdAlign = fcLeft;
-        ColumnData[0].cdObjectIndex = 1;
+        Column(0).cdAlign = fcLeft;
+        Column(0).cdObjectIndex = 1;
     });
 }
 

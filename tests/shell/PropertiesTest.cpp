@@ -30,10 +30,6 @@ protected:
         Sheet->CreateColumnDataType(2, heading, fcTextBox, u"", hidden, fcLeft, 40, adjust, false);
     }
     GridEngine& Grid() { return Sheet.Platform->TheGrid(); }
-    static bool Draws(const std::string& call)
-    {
-        return call == "MSFlexGrid1.Redraw=True" || call == "MSFlexGrid1.Refresh()";
-    }
 
     SheetUnderTest Sheet;
     SheetProbe Probe{*Sheet};
@@ -352,6 +348,7 @@ TEST_F(Properties, ColWidthOutsideItsRange_IsIgnored)
                   Sheet->ColWidth(2, std::numeric_limits<float>::quiet_NaN());
               }),
               Lines{});
+    EXPECT_EQ(Sheet.TakeEvents(), Lines{});
 }
 
 TEST_F(Properties, ColWidthOfAHiddenColumn_IsIgnored)
