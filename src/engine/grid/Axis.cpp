@@ -31,7 +31,7 @@ void Axis::Touched(std::size_t block)
 
 void Axis::KnowStarts() const
 {
-    if (known_ == blocks_.size())
+    if (known_ == blocks_.size() && starts_.size() == blocks_.size())
         return;
     starts_.resize(blocks_.size());
     for (std::size_t block = known_; block < blocks_.size(); ++block)
@@ -236,7 +236,8 @@ std::int64_t Axis::Position(std::int32_t index) const
 
 std::int32_t Axis::At(std::int64_t position) const
 {
-    position = std::max<std::int64_t>(position, 0);
+    if (position < 0)
+        return 0;
     if (position >= Extent())
         return count_;
     const auto behind = std::ranges::upper_bound(starts_, position, {}, &Start::Position);

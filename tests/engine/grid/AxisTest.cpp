@@ -132,6 +132,42 @@ TEST(AxisOfSizes, ManyMixedSizes_AreFoundAcrossBlocks)
     EXPECT_EQ(axis.Extent(), position);
 }
 
+TEST(AxisOfSizes, CutByWholeBlocks_ForgetsWhereTheyBegan)
+{
+    constexpr std::int32_t count = 600;
+    Axis axis(count, 240);
+    for (std::int32_t index = 0; index < count; index += 2)
+        axis.SetOwn(index, 300);
+    EXPECT_EQ(axis.Extent(), 300 * 540);
+    for (std::int32_t left = count; left > 1; --left) {
+        axis.SetCount(left);
+        ASSERT_EQ(axis.Extent(), left / 2 * 540 + left % 2 * 300);
+        ASSERT_EQ(axis.At(axis.Extent() - 1), left - 1);
+    }
+}
+
+TEST(AxisOfSizes, NegativePosition_IsTheFirst_ThoughItBeHidden)
+{
+    Axis axis(3, 240);
+    axis.SetOwn(0, 0);
+    EXPECT_EQ(axis.At(-1), 0);
+    EXPECT_EQ(axis.At(0), 1);
+}
+
+TEST(AxisOfSizes, EmptiedOfWholeBlocks_ForgetsWhereTheyBegan)
+{
+    Axis axis(600, 240);
+    for (std::int32_t index = 0; index < 600; index += 2)
+        axis.SetOwn(index, 300);
+    EXPECT_EQ(axis.Extent(), 300 * 540);
+    while (axis.Count() > 2) {
+        axis.Remove(axis.Count() - 1);
+        axis.Remove(axis.Count() - 1);
+        ASSERT_EQ(axis.Extent(), axis.Count() / 2 * 540);
+        ASSERT_EQ(axis.At(axis.Extent() - 1), axis.Count() - 1);
+    }
+}
+
 TEST(AxisOfSizes, RowsOfOneOwnHeightInARow_AreOneRun)
 {
     Axis axis(1'000'001, 240);
