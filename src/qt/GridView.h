@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace Tessellon {
@@ -21,6 +22,8 @@ public:
     /// All logical pixels that a part of the grid touches.
     [[nodiscard]] QRect PixelsAround(const GridRectangle& part) const;
     void TurnWheel(QWheelEvent& event); ///< Over the grid or anything that lies on it.
+    /// What the mouse does next is done to this cell, wherever it is by then; none: to what lies under it.
+    void Name(std::optional<GridCell> cell) { named_ = cell; }
     [[nodiscard]] const ShapedTextCache& Texts() const { return texts_; }
 
 protected:
@@ -60,6 +63,7 @@ private:
     float pixel_ = 0; ///< Twips.
     QTimer dragging_; ///< Runs while a drag is held outside.
     GridMouse dragged_;
+    std::optional<GridCell> named_;
     int turned_ = 0; ///< Of the wheel, what is no whole notch yet, in eighths of a degree; across below.
     int turnedAcross_ = 0;
 };

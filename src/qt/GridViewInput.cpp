@@ -44,7 +44,11 @@ void GridView::Press(const QMouseEvent& event, bool isSecond)
     GridEngine& grid = frame_.Platform()->TheGrid();
     const GridMouse mouse = MouseOf(event, button);
     frame_.Do([&] {
-        if (isSecond)
+        if (named_ && isSecond)
+            grid.DoublePressCell(*named_, button, mouse.Shift);
+        else if (named_)
+            grid.PressCell(*named_, button, mouse.Shift);
+        else if (isSecond)
             grid.DoublePressMouse(mouse);
         else
             grid.PressMouse(mouse,
@@ -68,7 +72,9 @@ void GridView::mouseMoveEvent(QMouseEvent* event)
     const GridMouse mouse = MouseOf(*event, ButtonsOf(event->buttons()));
     ShowPointer(mouse);
     frame_.Do([&] {
-        if (mouse.Button != 0)
+        if (named_)
+            grid.DragToCell(*named_, mouse.Shift);
+        else if (mouse.Button != 0)
             grid.MoveMouse(mouse);
         else
             grid.HoverMouse(mouse);
@@ -81,8 +87,15 @@ void GridView::mouseReleaseEvent(QMouseEvent* event)
     const std::int16_t button = ButtonOf(event->button());
     if (button == 1)
         dragging_.stop();
-    if (button != 0)
-        frame_.Do([&] { frame_.Platform()->TheGrid().ReleaseMouse(MouseOf(*event, button)); });
+    if (button == 0)
+        return;
+    GridEngine& grid = frame_.Platform()->TheGrid();
+    frame_.Do([&] {
+        if (named_)
+            grid.ReleaseHere(button, ShiftOf(event->modifiers()));
+        else
+            grid.ReleaseMouse(MouseOf(*event, button));
+    });
 }
 
 void GridView::ShowPointer(const GridMouse& mouse)

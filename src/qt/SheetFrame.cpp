@@ -4,11 +4,10 @@
 #include "qt/FocusEcho.h"
 #include "qt/GridView.h"
 #include "qt/KeyInput.h"
-#include "qt/QtLocale.h"
 #include "qt/QtToolkit.h"
 #include "qt/TextBoxWidget.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMessageBox>
 #include <QResizeEvent>
 
@@ -41,13 +40,12 @@ SheetFrame::Activity::~Activity()
     --frame_.activities_;
 }
 
-SheetFrame::SheetFrame(Conduct conduct, QWidget* parent)
+SheetFrame::SheetFrame(Conduct conduct, Locale locale, QWidget* parent)
     : QWidget(parent)
     , conduct_(conduct)
     , metrics_(MetricsFor(conduct, *this))
     , toolkit_(std::make_shared<QtToolkit>(*this))
-    , platform_(std::make_shared<EnginePlatform>(toolkit_,
-                                                 conduct == Conduct::Replay ? Locale::English() : LocaleFrom(locale())))
+    , platform_(std::make_shared<EnginePlatform>(toolkit_, std::move(locale)))
     , keys_(std::make_unique<KeyInput>(*this))
     , view_(new GridView(*this))
     , text_(new TextBoxWidget(*this))
@@ -105,6 +103,8 @@ std::int32_t SheetFrame::TwipsOf(int pixels) const
 
 void SheetFrame::ScreenChanged()
 {
+    if (conduct_ == Conduct::Replay)
+        return;
     platform_->TheGrid().FontMetricsChanged();
     ResizeSheet();
     for (ControlCore* control : {static_cast<ControlCore*>(platform_->TheTextBox().get()),
@@ -197,7 +197,7 @@ bool SheetFrame::event(QEvent* event)
     switch (event->type()) {
     case QEvent::WindowActivate: Do([&] { platform_->TheFocus().WindowIn(); }); break;
     case QEvent::WindowDeactivate:
-        if (!isMessageUp_ && QGuiApplication::focusWindow() != window()->windowHandle()) {
+        if (!isMessageUp_ && QApplication::activePopupWidget() == nullptr) {
             text_->CommitComposition();
             Do([&] {
                 platform_->TheGrid().AbandonPress();
@@ -223,9 +223,11 @@ bool SheetFrame::event(QEvent* event)
     return QWidget::event(event);
 }
 
+/// The sheet of a record is told its size by the script, which knows no pixels.
 void SheetFrame::resizeEvent(QResizeEvent* /*event*/)
 {
-    ResizeSheet();
+    if (conduct_ == Conduct::Desktop)
+        ResizeSheet();
 }
 
 void SheetFrame::showEvent(QShowEvent* /*event*/)

@@ -2,8 +2,8 @@
 
 #include "engine/EnginePlatform.h"
 #include "qt/Conduct.h"
-#include "qt/Metrics.h"
 #include "qt/GridScrollBars.h"
+#include "qt/Metrics.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -29,7 +29,7 @@ class SheetFrame : public QWidget {
     Q_OBJECT
 
 public:
-    explicit SheetFrame(Conduct conduct, QWidget* parent = nullptr);
+    SheetFrame(Conduct conduct, Locale locale, QWidget* parent = nullptr);
     ~SheetFrame() override;
 
     /// Takes the frame off its parent and deletes it, later if an event of the user's is running in it.

@@ -1,5 +1,6 @@
 #include "qt/SheetWidget.h"
 
+#include "qt/QtLocale.h"
 #include "qt/SheetFrame.h"
 #include "qt/SheetWidgetParts.h"
 #include "qt/Texts.h"
@@ -39,7 +40,7 @@ SheetWidget::SheetWidget(QWidget* parent)
 SheetWidget::~SheetWidget() = default;
 
 SheetWidget::Parts::Parts(SheetWidget& widget)
-    : Frame(new SheetFrame(Conduct::Desktop, &widget))
+    : Frame(new SheetFrame(Conduct::Desktop, LocaleFrom(widget.locale()), &widget))
     , Sheet(TessellonSheet::Create(Frame->Platform()))
 {
 }
