@@ -24,6 +24,7 @@ public:
     void TurnWheel(QWheelEvent& event); ///< Over the grid or anything that lies on it.
     /// What the mouse does next is done to this cell, wherever it is by then; none: to what lies under it.
     void Name(std::optional<GridCell> cell) { named_ = cell; }
+    [[nodiscard]] bool WasPressTaken() const { return isPressTaken_; } ///< The last one; a lost one has no release.
     [[nodiscard]] const ShapedTextCache& Texts() const { return texts_; }
 
 protected:
@@ -53,6 +54,7 @@ private:
     void FollowScreen();
 
     void Press(const QMouseEvent& event, bool isSecond);
+    bool TakePress(const GridMouse& mouse, bool isSecond);
     [[nodiscard]] GridMouse MouseOf(const QMouseEvent& event, std::int16_t button) const;
     void ShowPointer(const GridMouse& mouse);
     void WatchDrag(const GridMouse& mouse);
@@ -64,6 +66,7 @@ private:
     QTimer dragging_; ///< Runs while a drag is held outside.
     GridMouse dragged_;
     std::optional<GridCell> named_;
+    bool isPressTaken_ = false;
     int turned_ = 0; ///< Of the wheel, what is no whole notch yet, in eighths of a degree; across below.
     int turnedAcross_ = 0;
 };

@@ -39,21 +39,21 @@ GridMouse GridView::MouseOf(const QMouseEvent& event, std::int16_t button) const
 void GridView::Press(const QMouseEvent& event, bool isSecond)
 {
     const std::int16_t button = ButtonOf(event.button());
+    isPressTaken_ = false;
     if (button == 0 || !frame_.Echo().BeforePress())
         return;
+    frame_.Do([&] { isPressTaken_ = TakePress(MouseOf(event, button), isSecond); });
+}
+
+bool GridView::TakePress(const GridMouse& mouse, bool isSecond)
+{
     GridEngine& grid = frame_.Platform()->TheGrid();
-    const GridMouse mouse = MouseOf(event, button);
-    frame_.Do([&] {
-        if (named_ && isSecond)
-            grid.DoublePressCell(*named_, button, mouse.Shift);
-        else if (named_)
-            grid.PressCell(*named_, button, mouse.Shift);
-        else if (isSecond)
-            grid.DoublePressMouse(mouse);
-        else
-            grid.PressMouse(mouse,
-                            frame_.TheConduct() == Conduct::Replay ? HeadingEdges::Ignore : HeadingEdges::Resize);
-    });
+    if (named_)
+        return isSecond ? grid.DoublePressCell(*named_, mouse.Button, mouse.Shift)
+                        : grid.PressCell(*named_, mouse.Button, mouse.Shift);
+    if (isSecond)
+        return grid.DoublePressMouse(mouse);
+    return grid.PressMouse(mouse, frame_.TheConduct() == Conduct::Replay ? HeadingEdges::Ignore : HeadingEdges::Resize);
 }
 
 void GridView::mousePressEvent(QMouseEvent* event)

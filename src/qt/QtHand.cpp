@@ -74,7 +74,7 @@ bool QtHand::Reach(GridCell cell)
 void QtHand::PressAndRelease(GridCell cell, QEvent::Type press)
 {
     SendToCell(cell, press);
-    if (!hasFailed_)
+    if (!hasFailed_ && frame_.View().WasPressTaken())
         SendToCell(cell, QEvent::MouseButtonRelease);
 }
 
@@ -99,7 +99,7 @@ void QtHand::Drag(std::int32_t row, std::int32_t col, std::int32_t toRow, std::i
     if (toRow < 0 || toCol < 0 || toRow >= grid.Rows() || toCol >= grid.Cols() || !Reach({row, col}))
         return;
     SendToCell({row, col}, QEvent::MouseButtonPress);
-    if (hasFailed_ || !grid.IsHeld(1))
+    if (hasFailed_ || !frame_.View().WasPressTaken())
         return;
     SendToCell({toRow, toCol}, QEvent::MouseMove);
     if (!hasFailed_)
@@ -137,7 +137,8 @@ void QtHand::Press(const Stroke& stroke)
     hasFailed_ = false;
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QWidget* const focused = frame_.window()->focusWidget();
-        if (hasFailed_ || focused == nullptr)
+        // Outside the sheet a key is not this user's business: Tab would lead back in.
+        if (hasFailed_ || (focused != &frame_ && !frame_.isAncestorOf(focused)))
             return;
         const QString text = stroke.HasCharacter ? QString(QChar(stroke.Character)) : QString();
         QKeyEvent event(type, QtKeyOf(stroke.Code), ModifiersOf(stroke.Shift), text);

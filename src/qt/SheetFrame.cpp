@@ -200,7 +200,9 @@ bool SheetFrame::event(QEvent* event)
         if (!isMessageUp_ && QApplication::activePopupWidget() == nullptr) {
             text_->CommitComposition();
             Do([&] {
-                platform_->TheGrid().AbandonPress();
+                // The release goes to the other window; a record's mouse goes on.
+                if (conduct_ == Conduct::Desktop)
+                    platform_->TheGrid().AbandonPress();
                 platform_->TheFocus().WindowOut();
             });
         }

@@ -177,10 +177,11 @@ bool TextBoxWidget::event(QEvent* event)
     return frame_.TheKeyInput().Handle(*event) || QLineEdit::event(event);
 }
 
-/// Enter, Esc and Tab are the sheet's alone; a line edit would tell its own signals of them.
+/// Enter, Esc and Tab are the sheet's alone; a line edit would tell its own signals of them. A key without a code only
+/// has its character.
 bool TextBoxWidget::TakeKey(std::int16_t keyCode, std::int16_t shift)
 {
-    if (keyCode == KeyCode::Enter || keyCode == KeyCode::Escape || keyCode == KeyCode::Tab)
+    if (keyCode == 0 || keyCode == KeyCode::Enter || keyCode == KeyCode::Escape || keyCode == KeyCode::Tab)
         return true;
     {
         const QScopedValueRollback taking(isTaking_, true);
