@@ -130,7 +130,11 @@ private:
         case 2: Sheet->Row(row); break;
         case 3: Sheet->Col(col); break;
         case 4: Sheet->TextMatrix(row, col, u" two "); break;
-        case 5: Sheet->BackColor(static_cast<std::int16_t>(doing.Other % 2), Yellow); break;
+        case 5:
+            // Without rows it goes back to the row whose number was left standing, and fails at the host.
+            if (Sheet->Rows() > 1)
+                Sheet->BackColor(static_cast<std::int16_t>(doing.Other % 2), Yellow);
+            break;
         case 6: Sheet->SearchCol(col, u"two"); break;
         default: Sheet->RowHeight(static_cast<float>(150 + 15 * doing.Other), false, false); break;
         }
