@@ -110,6 +110,35 @@ TEST_P(LeavingContract, CancelledExitFocus_GoesToTheGrid_WhereTheOneNotedIsDisab
     EXPECT_EQ(Told(), (Names{"Text1.Validate", "UserControl.ExitFocus", "Text1.LostFocus", "MSFlexGrid1.GotFocus"}));
 }
 
+TEST_P(LeavingContract, CancelledExitFocus_GoesToTheGrid_WhereTheHolderIsUnloadedByThen)
+{
+    Engine().Combo1().Load(1);
+    Enter(Combo(1));
+    Recorder.Once("UserControl.ExitFocus", [&](EventArguments&) {
+        Engine().Combo1().Unload(1);
+        Engine().UserControl().SetFocus();
+    });
+    User().FocusOut();
+    EXPECT_EQ(Told(), (Names{"UserControl.ExitFocus", "MSFlexGrid1.GotFocus"}));
+    EXPECT_EQ(Holder(), "MSFlexGrid1");
+}
+
+TEST_P(LeavingContract, WindowThatGoesAndComesBackInExitFocus_GivesTheFocusToWhoHadIt_AndTheLeavingGoesOn)
+{
+    Enter(Text());
+    Up(Check());
+    Recorder.Once("UserControl.ExitFocus", [&](EventArguments&) {
+        Check().SetFocus();
+        User().WindowOut();
+        User().WindowIn();
+        EXPECT_EQ(Holder(), "Text1");
+    });
+    User().FocusOut();
+    EXPECT_EQ(Told(), (Names{"Text1.Validate", "UserControl.ExitFocus", "Text1.LostFocus", "Text1.GotFocus",
+                             "Text1.LostFocus"}));
+    EXPECT_EQ(Holder(), "");
+}
+
 TEST_P(LeavingContract, EditorHiddenInExitFocus_HearsOfItsLossOnceTheSheetIsLeft)
 {
     Enter(Text());

@@ -190,10 +190,8 @@ void Focus::LeaveSheet()
     }
     if (wanted != nullptr)
         Give(*wanted);
-    else if (holder_ != nullptr && !holder_->CanHaveFocus())
+    else if (holder_ == nullptr || !holder_->CanHaveFocus())
         Give(grid_);
-    else
-        GridEnabled();
 }
 
 void Focus::EnterSheet()
