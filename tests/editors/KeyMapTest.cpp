@@ -1,0 +1,412 @@
+#include "support/EditorTest.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+namespace Tessellon {
+namespace {
+
+struct EditorKind {
+    const char* Name;
+    FieldControlType Kind;
+    Child Control;
+    const char16_t* Text; ///< Of a cell: three units, where there is a caret.
+};
+
+constexpr std::array<EditorKind, 8> editors = {{
+    {"Text1", fcTextBox, Child::Text1, u"abc"},
+    {"Check1", fcCheckBox, Child::Check1, u"True"},
+    {"Combo1", fcComboBox, Child::Combo1, u"Two"},
+    {"List1", fcListBox, Child::List1, u"Two"},
+    {"MaskEdBox1", fcMaskedEditBox, Child::MaskEdBox1, u"1-2"},
+    {"DTPicker1", fcDatePicker, Child::DTPicker1, u"05/05/2002"},
+    {"RichTextBox1", fcRichTextBox, Child::RichTextBox1, u"abc"},
+    {"Command1", fcCommandButton, Child::Command1, u"paid"},
+}};
+
+struct KeyMapRow {
+    const char* Key;
+    std::array<const char*, 8> Does;
+};
+
+constexpr const char* textMoves = "write text; platform moves in the list";
+constexpr const char* selectionMoves = "write selection; platform moves in the list";
+constexpr const char* whenActedOn = "Enter, Left, Up, Right, Down when acted on";
+
+// Columns: Text1, Check1, Combo1, List1, MaskEdBox1, DTPicker1, RichTextBox1, Command1.
+// clang-format off
+constexpr KeyMapRow keyMap[] = {
+    {"Esc", {"restore, down", "restore, down", "restore, down", "restore, down",
+             "restore, down", "restore through the date format, down", "restore, down", "restore, down"}},
+    {"Enter", {"next", "write value, next", "next", "next, writing the selection on the last cell only",
+               "write text if it had any, next", "write value, next", "Ctrl: new line; else next", "click"}},
+    {"Space", {"typed", "platform toggles", "platform", "platform",
+               "typed", "typed", "typed", "click"}},
+    {"Left", {"previous if caret at 0", "previous", "previous on every second press", "previous",
+              "previous if caret at 0", "nothing", "previous if caret at 0", "nothing"}},
+    {"Right", {"next if caret at end", "next", "next on every second press", "next",
+               "next if caret at end", "nothing", "next if caret at end", "nothing"}},
+    {"Up", {"above", "above", textMoves, selectionMoves,
+            "above", "nothing", "above", "nothing"}},
+    {"Down", {"below", "below", textMoves, selectionMoves,
+              "below", "nothing", "below", "nothing"}},
+    {"Other", {"nothing", "nothing", "write text", "nothing",
+               "nothing", "nothing", "nothing", "nothing"}},
+    {"Public KeyDown raised", {"yes", "no", "no", "no",
+                               "no", "yes", "no", "no"}},
+    {"KeyCode set to 0", {"no", "no", "no", "no",
+                          "Enter", "no", whenActedOn, "Enter, Space"}},
+};
+// clang-format on
+
+constexpr std::int16_t otherKeys[] = {Key::Tab,    Key::PageUp, Key::PageDown, Key::End, Key::Home,
+                                      Key::Delete, Key::F2,     112,           127,      u'A'};
+constexpr const char16_t* sentinel = u"#";
+
+/// One press, and what the sheet did with it while its handler ran.
+struct Seen {
+    std::int16_t Code = 0; ///< As it came back.
+    std::pair<std::int32_t, std::int32_t> Cursor;
+    bool IsUp = false;
+    std::u16string Cell; ///< Of the cell where the key was pressed.
+    Lines Calls;
+    Lines Heard;
+    bool WasDownAtAdvance = true;
+    bool CharacterReachedIt = false; ///< Behind the handler.
+    std::u16string CellInTheEnd;
+    std::u16string ShownInTheEnd;
+};
+
+/// A new sheet with the editor between two text boxes, or as the last column, and somebody who listens in between.
+class Desk : private EventSink {
+public:
+    Desk(const EditorKind& kind, std::int32_t row, std::int32_t col, std::u16string_view text)
+        : kind_(kind)
+        , row_(row)
+        , col_(col)
+    {
+        Sheet->Cols(col == 2 ? 4 : col + 1);
+        for (std::int32_t c = 1; c < Sheet->Cols(); ++c)
+            Sheet.Column(c, fcTextBox);
+        const char16_t* setting = kind.Kind == fcMaskedEditBox                        ? u"#-#"
+                                  : kind.Kind == fcComboBox || kind.Kind == fcListBox ? u"One|Two|Three"
+                                                                                      : u"";
+        Sheet.Column(col, kind.Kind, setting, false, kind.Kind == fcMaskedEditBox);
+        Sheet->BuildGridColumns();
+        Sheet->AllowAddNew(true);
+        Sheet->Add(0, 3);
+        Grid().TextMatrix(row, col, text);
+        Sheet.Hand.Click(row, col);
+        Sheet->AdvanceToNextCell += [this](bool&) { now_.WasDownAtAdvance = now_.WasDownAtAdvance && !IsUp(); };
+        Sheet.Calls->Notes(true);
+        Sheet.Platform->Listen(this);
+    }
+    ~Desk() override { Sheet.Platform->Listen(nullptr); }
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+
+    Desk& Caret(std::int32_t position)
+    {
+        Sheet.Hand.Caret(position);
+        return *this;
+    }
+    Desk& Tag(std::u16string_view tag)
+    {
+        Editor().Tag(tag);
+        return *this;
+    }
+    /// Puts a text into the cell that no editor has, so that a write of the cell is seen.
+    Desk& Mark()
+    {
+        Grid().TextMatrix(row_, col_, sentinel);
+        return *this;
+    }
+    Seen Press(std::int16_t code, std::int16_t shift = 0)
+    {
+        now_ = {};
+        Sheet.Press(code, shift);
+        now_.CellInTheEnd = Grid().TextMatrix(row_, col_);
+        now_.ShownInTheEnd = Shown();
+        return now_;
+    }
+
+    SheetUnderTest Sheet;
+
+private:
+    Tessellon::Grid& Grid() { return Sheet.Platform->MSFlexGrid1(); }
+    Tessellon::Editor& Editor()
+    {
+        switch (kind_.Control) {
+        case Child::Check1: return *Sheet.Platform->Check1();
+        case Child::Combo1: return *Sheet.Platform->Combo1().Item(0);
+        case Child::List1: return *Sheet.Platform->List1().Item(0);
+        case Child::DTPicker1: return *Sheet.Platform->DTPicker1();
+        case Child::MaskEdBox1: return *Sheet.Platform->MaskEdBox1().Item(0);
+        case Child::RichTextBox1: return *Sheet.Platform->RichTextBox1();
+        case Child::Command1: return *Sheet.Platform->Command1().Item(0);
+        default: return *Sheet.Platform->Text1();
+        }
+    }
+    bool IsUp() { return Editor().Visible() || Editor().Enabled(); }
+    std::u16string Shown()
+    {
+        for (const auto& editor : Sheet.Platform->Editors()) {
+            if (editor->Which() == kind_.Control)
+                return editor->ShownText();
+        }
+        return {};
+    }
+
+    void Raise(Child child, ChildEvent event, EventArguments& arguments) override
+    {
+        const bool isTheKey = child == kind_.Control && event == ChildEvent::KeyDown;
+        if (isTheKey) {
+            Sheet.Heard.clear();
+            static_cast<void>(Sheet.TakeCalls());
+        }
+        if (child == kind_.Control && event == ChildEvent::KeyPress)
+            now_.CharacterReachedIt = true;
+        probe_.Raise(child, event, arguments);
+        if (isTheKey) {
+            now_.Code = arguments.KeyCode;
+            now_.Cursor = {Grid().Row(), Grid().Col()};
+            now_.IsUp = IsUp();
+            now_.Cell = Grid().TextMatrix(row_, col_);
+            now_.Calls = Sheet.TakeCalls();
+            now_.Heard = Sheet.TakeEventNames();
+        }
+    }
+
+    const EditorKind& kind_;
+    std::int32_t row_;
+    std::int32_t col_;
+    SheetProbe probe_{*Sheet};
+    Seen now_;
+};
+
+/// Plays one editor's keys and says what was seen in the words of the table.
+class Player {
+public:
+    explicit Player(const EditorKind& kind)
+        : kind_(kind)
+    {
+    }
+
+    std::string Play(std::string_view key) const
+    {
+        if (key == "Esc")
+            return Escape();
+        if (key == "Enter")
+            return Enter();
+        if (key == "Space")
+            return Space();
+        if (key == "Left")
+            return Sideways(Key::Left);
+        if (key == "Right")
+            return Sideways(Key::Right);
+        if (key == "Up")
+            return Upright(Key::Up);
+        if (key == "Down")
+            return Upright(Key::Down);
+        if (key == "Other")
+            return Other();
+        if (key == "Public KeyDown raised")
+            return Told();
+        return Eaten();
+    }
+
+private:
+    Desk Open() const { return Desk(kind_, 2, 2, kind_.Text); }
+
+    static bool IsMoved(const Seen& seen) { return seen.Cursor != std::pair{2, 2}; }
+    static bool IsWritten(const Seen& seen) { return seen.Cell != sentinel; }
+    static bool IsClicked(const Seen& seen) { return CountOf(seen.Heard, "ButtonClick") == 1; }
+
+    /// Where the cursor went, each time behind a stand-down.
+    static std::string Way(const Seen& seen)
+    {
+        const std::pair<std::pair<std::int32_t, std::int32_t>, const char*> ways[] = {
+            {{2, 3}, "next"}, {{2, 1}, "previous"}, {{1, 2}, "above"}, {{3, 2}, "below"}};
+        for (const auto& [place, word] : ways) {
+            if (seen.Cursor == place)
+                return seen.WasDownAtAdvance ? word : std::string(word) + " with the editor up";
+        }
+        return "nowhere";
+    }
+
+    std::string Escape() const
+    {
+        const Seen seen = Open().Tag(u"2002-05-07").Mark().Press(Key::Escape);
+        std::string words = seen.Cell == u"2002-05-07"   ? "restore"
+                            : seen.Cell == u"07/05/2002" ? "restore through the date format"
+                                                         : "keep " + Utf8(seen.Cell);
+        if (!seen.IsUp && !IsMoved(seen))
+            words += ", down";
+        return words;
+    }
+
+    std::string Enter() const
+    {
+        const Seen plain = Open().Mark().Press(Key::Enter);
+        if (IsClicked(plain))
+            return "click";
+        const Seen fromEmpty = Desk(kind_, 2, 2, u"").Mark().Press(Key::Enter);
+        const Seen onLast = Desk(kind_, 3, 2 + 1, kind_.Text).Mark().Press(Key::Enter);
+        const Seen withCtrl = Open().Press(Key::Enter, 2);
+        std::string words;
+        if (withCtrl.Cell == std::u16string(kind_.Text) + u"\r\n" && !IsMoved(withCtrl) && withCtrl.IsUp)
+            words += "Ctrl: new line; else ";
+        if (IsWritten(plain))
+            words += IsWritten(fromEmpty) ? "write value, " : "write text if it had any, ";
+        words += Way(plain);
+        if (!IsWritten(plain) && IsWritten(onLast))
+            words += ", writing the selection on the last cell only";
+        return words;
+    }
+
+    std::string Space() const
+    {
+        const Seen seen = Open().Press(Key::Space);
+        if (IsClicked(seen))
+            return "click";
+        if (IsMoved(seen) || !seen.IsUp || seen.Code != Key::Space || !seen.CharacterReachedIt)
+            return "taken away from the control";
+        return seen.Cell == kind_.Text && seen.CellInTheEnd == u"False" ? "platform toggles" : "left to the control";
+    }
+
+    std::string Sideways(std::int16_t code) const
+    {
+        std::string way = "nowhere";
+        int first = 0;
+        int second = 0;
+        int atFront = 0;
+        int atEnd = 0;
+        for (const std::int32_t caret : {0, 1, 3}) {
+            Desk desk = Open();
+            const Seen once = desk.Caret(caret).Press(code);
+            if (IsMoved(once)) {
+                way = Way(once);
+                ++first;
+                atFront += caret == 0 ? 1 : 0;
+                atEnd += caret == 3 ? 1 : 0;
+                continue;
+            }
+            if (!Only(once.Calls, {"MSFlexGrid1", kind_.Name}).empty())
+                return "something";
+            const Seen twice = desk.Press(code);
+            if (IsMoved(twice)) {
+                ++second;
+                if (way == "nowhere")
+                    way = Way(twice);
+            }
+        }
+        if (first == 3)
+            return way;
+        if (first == 1 && atFront == 1)
+            return way + " if caret at 0";
+        if (first == 1 && atEnd == 1)
+            return way + " if caret at end";
+        if (first == 0 && second == 3)
+            return way + " on every second press";
+        return first == 0 && second == 0 ? "nothing" : "unsteady";
+    }
+
+    std::string Upright(std::int16_t code) const
+    {
+        for (const std::int32_t caret : {1, 3}) {
+            if (Way(Open().Caret(caret).Press(code)) != Way(Open().Press(code)))
+                return "unsteady";
+        }
+        const Seen seen = Open().Mark().Press(code);
+        if (IsMoved(seen))
+            return Way(seen);
+        if (seen.Cell == kind_.Text && seen.CellInTheEnd == (code == Key::Up ? u"One" : u"Three"))
+            return kind_.Control == Child::List1 ? selectionMoves : textMoves;
+        return seen.Calls.empty() && seen.IsUp ? "nothing" : "something";
+    }
+
+    std::string Other() const
+    {
+        std::string words;
+        for (const std::int16_t code : otherKeys) {
+            const Seen seen = Open().Mark().Press(code);
+            const std::string now = !seen.IsUp || IsMoved(seen) ? "something"
+                                    : seen.Cell == kind_.Text   ? "write text"
+                                    : seen.Calls.empty()        ? "nothing"
+                                                                : "something";
+            if (!words.empty() && words != now)
+                return "unsteady";
+            words = now;
+        }
+        return words;
+    }
+
+    std::string Told() const
+    {
+        std::vector<std::int16_t> keys = {Key::Escape, Key::Enter, Key::Space, Key::Left,
+                                          Key::Up,     Key::Right, Key::Down};
+        keys.insert(keys.end(), std::begin(otherKeys), std::end(otherKeys));
+        std::ptrdiff_t told = 0;
+        for (const std::int16_t code : keys)
+            told += CountOf(Open().Press(code).Heard, "KeyDown");
+        return told == 0 ? "no" : told == static_cast<std::ptrdiff_t>(keys.size()) ? "yes" : "unsteady";
+    }
+
+    std::string Eaten() const
+    {
+        std::string words;
+        const std::pair<std::int16_t, const char*> keys[] = {
+            {Key::Enter, "Enter"}, {Key::Space, "Space"}, {Key::Left, "Left"},    {Key::Up, "Up"},
+            {Key::Right, "Right"}, {Key::Down, "Down"},   {Key::Escape, "Escape"}};
+        for (const auto& [code, name] : keys) {
+            const Seen seen = Open().Caret(code == Key::Right ? 3 : 0).Press(code);
+            if (seen.Code == 0)
+                words += (words.empty() ? "" : ", ") + std::string(name);
+            else if (seen.Code != code)
+                return "another key";
+        }
+        for (const std::int16_t code : otherKeys) {
+            if (Open().Press(code).Code != code)
+                return "another key";
+        }
+        const bool onlyWhenActedOn =
+            Open().Caret(1).Press(Key::Left).Code == Key::Left && Open().Caret(1).Press(Key::Right).Code == Key::Right;
+        if (words.ends_with("Down") && onlyWhenActedOn)
+            words += " when acted on";
+        return words.empty() ? "no" : words;
+    }
+
+    const EditorKind& kind_;
+};
+
+/// What the control does with a blank is its own, so the table's two words for it are one here.
+std::string Unified(const std::string& words)
+{
+    return words == "typed" || words == "platform" ? "left to the control" : words;
+}
+
+TEST(KeyMap, EveryKey_DoesInEveryEditorWhatTheTableSays)
+{
+    for (const KeyMapRow& row : keyMap) {
+        for (std::size_t i = 0; i < editors.size(); ++i)
+            EXPECT_EQ(Player(editors.at(i)).Play(row.Key), Unified(row.Does.at(i)))
+                << row.Key << " in " << editors.at(i).Name;
+    }
+}
+
+TEST(KeyMap, Blank_IsTypedWhereTheControlHasATextOfItsOwn)
+{
+    const std::pair<std::size_t, const char16_t*> shown[] = {{0, u" abc"}, {2, u" Two"},       {3, u"Two"},
+                                                             {4, u" -2"},  {5, u"05/05/2002"}, {6, u" abc"}};
+    for (const auto& [i, text] : shown) {
+        Desk desk(editors.at(i), 2, 2, editors.at(i).Text);
+        EXPECT_EQ(desk.Press(Key::Space).ShownInTheEnd, text) << editors.at(i).Name;
+    }
+}
+
+} // namespace
+} // namespace Tessellon
