@@ -151,6 +151,15 @@ TEST_F(Aggregates, WhatTheDateFormatDrops_IsLostAheadOfTheComparison)
     EXPECT_EQ(Maximum(mtDate), u"15/03/2024 18:00:00");
 }
 
+TEST_F(Aggregates, FormatThatKeepsNoDate_FailsTheWalk)
+{
+    Sheet->DateFormat(u"dddd");
+    Fill({u"15/03/2024"});
+    EXPECT_EQ(Minimum(mtDate), u"");
+    EXPECT_FALSE(Success);
+    EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines{"Minimum"});
+}
+
 TEST_F(Aggregates, OfEqualCells_TheFirstStands)
 {
     // With a month for the whole date the days tie: the first day that the format keeps is what stands.
