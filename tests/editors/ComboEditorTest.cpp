@@ -215,6 +215,14 @@ TEST_F(ComboEditor, ArrowThatTheHostRefuses_CountsAllTheSame)
     EXPECT_EQ(Members.ComboPreviousIndex, 1); // 0 by the loss of focus, and one more.
 }
 
+TEST_F(ComboEditor, EveryArrow_CountsOn)
+{
+    Members.ComboPreviousIndex = 4;
+    TellKey(Child::Combo1, Key::Left);
+    EXPECT_EQ(Members.ComboPreviousIndex, 5);
+    EXPECT_EQ(Cursor(), Place(2, 2));
+}
+
 TEST_F(ComboEditor, OtherKeys_DoNotCount)
 {
     for (const std::int16_t code : {Key::Up, Key::Down, Key::Home, Key::Tab, std::int16_t{u'T'}})

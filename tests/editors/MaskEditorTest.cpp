@@ -252,14 +252,15 @@ TEST_F(MaskEditor, EnterOverACellOfAnotherBox_WritesNothingAndAdvances)
 
 TEST_F(MaskEditor, EnterOutsideTheDataCells_WritesNothingAndIsNoFailure)
 {
-    Members.CurrentCol = 0;
-    TellKey(Child::MaskEdBox1, Key::Enter);
-    const Lines calls = UpTo(CallsOn("MaskEdBox1(0)"), "MaskEdBox1(0).ZOrder(1)");
-    EXPECT_EQ(Only(calls, {"MSFlexGrid1"}), Lines());
-    GoTo(2, maskCol, u"12/34");
-    Members.CurrentRow = 0;
-    TellKey(Child::MaskEdBox1, Key::Enter);
-    EXPECT_EQ(Only(UpTo(CallsOn("MaskEdBox1(0)"), "MaskEdBox1(0).ZOrder(1)"), {"MSFlexGrid1"}), Lines());
+    for (std::int32_t SheetMembers::*place : {&SheetMembers::CurrentRow, &SheetMembers::CurrentCol}) {
+        GoTo(2, maskCol, u"12/34");
+        Members.*place = 0;
+        EXPECT_EQ(TellKey(Child::MaskEdBox1, Key::Enter).KeyCode, 0);
+        const Lines calls = UpTo(CallsOn("MaskEdBox1(0)"), "MaskEdBox1(0).ZOrder(1)");
+        EXPECT_EQ(Only(calls, {"MSFlexGrid1"}), Lines());
+        EXPECT_EQ(calls.back(), "MaskEdBox1(0).ZOrder(1)");
+        EXPECT_EQ(CountOf(LabelsHeard(), "MaskEdBox1_KeyDown"), 0);
+    }
 }
 
 TEST_F(MaskEditor, EnterThatFailsBehindTheWrite_IsReportedAndNeitherAdvancesNorEatsTheKey)
