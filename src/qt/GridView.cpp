@@ -5,9 +5,27 @@
 
 #include <QPaintEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Tessellon {
+
+namespace {
+
+/// What lies between the corner of `view` and the whole device pixel ahead of it: on a scaled screen a widget may begin
+/// in the middle of one.
+QPointF BehindDevicePixel(const QWidget& view, qreal scale)
+{
+    constexpr qreal inexact = 1e-6;
+    const QPoint corner = view.mapTo(view.window(), QPoint(0, 0));
+    const auto rest = [&](int at) {
+        const qreal device = at * scale;
+        return std::max(device - std::floor(device + inexact), 0.0) / scale;
+    };
+    return {rest(corner.x()), rest(corner.y())};
+}
+
+} // namespace
 
 GridView::GridView(SheetFrame& frame)
     : QWidget(&frame)
@@ -89,6 +107,8 @@ void GridView::paintEvent(QPaintEvent* event)
 
     QPainter painter(this);
     painter.setFont(texts_.Font());
+    const QPointF behind = BehindDevicePixel(*this, scale_);
+    painter.translate(-behind);
     CellPainter cells(painter, texts_, palette(), scale_);
     const std::vector<Strip> rows = RowsInView();
     const std::vector<Strip> cols = ColsInView();
@@ -96,16 +116,18 @@ void GridView::paintEvent(QPaintEvent* event)
     for (const Strip& row : rows) {
         for (const Strip& col : cols) {
             const QRectF place(col.Begin, row.Begin, col.End - col.Begin, row.End - row.Begin);
-            if (due.intersects(place.toAlignedRect()))
+            if (due.intersects(place.translated(-behind).toAlignedRect()))
                 PaintCell(cells, {row.Index, col.Index}, place);
         }
     }
     const qreal right = cols.empty() ? 0 : cols.back().End;
     const qreal bottom = rows.empty() ? 0 : rows.back().End;
-    if (right < width())
-        cells.PaintEmpty({right, 0, width() - right, static_cast<qreal>(height())});
-    if (bottom < height())
-        cells.PaintEmpty({0, bottom, right, height() - bottom});
+    const qreal viewRight = width() + behind.x();
+    const qreal viewBottom = height() + behind.y();
+    if (right < viewRight)
+        cells.PaintEmpty({right, 0, viewRight - right, viewBottom});
+    if (bottom < viewBottom)
+        cells.PaintEmpty({0, bottom, right, viewBottom - bottom});
     if (due.contains(rect()))
         grid.Painted();
     frame_.Painted(due);
