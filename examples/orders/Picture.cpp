@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QThread>
 
 namespace Orders {
 
@@ -37,10 +38,13 @@ void Settle(const OrdersWindow& window)
 {
     constexpr int enough = 100;
     constexpr int most = 5'000;
+    constexpr int step = 10;
     QElapsedTimer timer;
     timer.start();
-    while (timer.elapsed() < enough || (!window.isActiveWindow() && timer.elapsed() < most))
-        QApplication::processEvents(QEventLoop::AllEvents, enough / 4);
+    while (timer.elapsed() < enough || (!window.isActiveWindow() && timer.elapsed() < most)) {
+        QThread::msleep(step);
+        QApplication::processEvents();
+    }
 }
 
 } // namespace

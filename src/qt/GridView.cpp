@@ -91,6 +91,7 @@ std::vector<GridView::Strip> GridView::ColsInView() const
 
 void GridView::FollowScreen()
 {
+    frame_.TheMetrics().FollowScreen();
     const float pixel = frame_.TheMetrics().TwipsAPixel();
     if (pixel_ != 0 && pixel != pixel_)
         QMetaObject::invokeMethod(

@@ -32,15 +32,30 @@ Font FontOf(const QFont& font, const QWidget& widget)
     return {font.family().toStdU16String(), points};
 }
 
-float ScreenMetrics::TwipsAPixel()
+ScreenMetrics::ScreenMetrics(const QWidget& widget)
+    : widget_(widget)
 {
-    return twipsAnInch / static_cast<float>(widget_.logicalDpiY());
+    FollowScreen();
+}
+
+void ScreenMetrics::FollowScreen()
+{
+    const float twipsAPixel = twipsAnInch / static_cast<float>(widget_.logicalDpiY());
+    const qreal scale = widget_.devicePixelRatioF();
+    if (twipsAPixel == twipsAPixel_ && scale == scale_)
+        return;
+    twipsAPixel_ = twipsAPixel;
+    scale_ = scale;
+    measured_.reset();
 }
 
 float ScreenMetrics::TextWidth(std::u16string_view text, const Font& font)
 {
-    const QFontMetricsF metrics(QtFontOf(font), &widget_);
-    return static_cast<float>(metrics.horizontalAdvance(SharedText(text))) * TwipsAPixel();
+    if (measured_ != font) {
+        widths_.Use(QtFontOf(font), widget_);
+        measured_ = font;
+    }
+    return static_cast<float>(widths_.WidthOf(text)) * twipsAPixel_;
 }
 
 std::int32_t ScreenMetrics::DefaultRowHeight(const Font& font)

@@ -105,6 +105,7 @@ void SheetFrame::ScreenChanged()
 {
     if (conduct_ == Conduct::Replay)
         return;
+    metrics_->FollowScreen();
     platform_->TheGrid().FontMetricsChanged();
     ResizeSheet();
     for (ControlCore* control : {static_cast<ControlCore*>(platform_->TheTextBox().get()),
