@@ -338,6 +338,9 @@ TEST_F(ClearSheet, EverythingIsEmptyAgain)
     EXPECT_EQ(Members.FirstEditableCol, -1);
     EXPECT_EQ(Members.FirstVisibleCol, -1);
     EXPECT_EQ(Members.ColumnBound, 0);
+    ASSERT_EQ(Members.ColumnData.size(), 1U);
+    EXPECT_EQ(Members.ColumnData.front().cdColName, u"");
+    EXPECT_EQ(Members.ColumnData.front().cdControlType, fcNil);
     EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines());
 }
 

@@ -447,12 +447,9 @@ TEST_F(ButtonLosesFocus, SweepThatBringsTheButtonUp_LeavesTheRequestToHide)
 TEST_F(ButtonLosesFocus, OnTheLastRowWithBothScrollsByAClickOnTheGrid_ComesBackByEnteringTheCellAnew)
 {
     GoTo(rows, 2, u"paid");
-    Members.CommandActivated = false;
-    Members.ControlWidth = Members.ControlHeight = 0;
-    Set({.GridClickPending = true, .PreviousMarkerRow = rows - 1});
-    Button().Visible(false);
     Sheet.Hand.FocusOut();
     Members.CommandActivated = false;
+    Members.ControlWidth = Members.ControlHeight = 0;
     Set({.GridClickPending = true, .PreviousMarkerRow = rows - 1});
     Forget();
     LoseFocus();
@@ -461,6 +458,19 @@ TEST_F(ButtonLosesFocus, OnTheLastRowWithBothScrollsByAClickOnTheGrid_ComesBackB
     EXPECT_TRUE(Members.ShowEditorRequest);
     EXPECT_TRUE(Members.GridRowClickPending);
     EXPECT_FALSE(Members.GridClickPending);
+}
+
+TEST_F(ButtonLosesFocus, CellThatIsEnteredAnewWithoutItsEditor_IsAskedForAllTheSame)
+{
+    GoTo(rows, 2, u"paid");
+    Sheet.Hand.FocusOut();
+    Members.CommandActivated = false;
+    Members.ControlWidth = Members.ControlHeight = 0;
+    Members.SkipEnterCell = true;
+    Set({.GridClickPending = true, .PreviousMarkerRow = rows});
+    LoseFocus();
+    EXPECT_TRUE(Members.ShowEditorRequest);
+    EXPECT_FALSE(Members.GridRowClickPending);
 }
 
 TEST_F(ButtonLosesFocus, WithoutAColumn_IsReportedUnderItsLabel)
