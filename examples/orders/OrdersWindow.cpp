@@ -61,6 +61,7 @@ OrdersWindow::OrdersWindow()
     layout->addWidget(splitter);
     DeclareColumns();
     ColorBands();
+    lines_.Clear();
     sheet_->setFocus();
     resize(sizeHint());
 }

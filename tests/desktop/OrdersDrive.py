@@ -41,6 +41,39 @@ class Session:
         return None
 
 
+class OrdersLoadThatFails(ProgramTest):
+    @staticmethod
+    def other_than(first, window):
+        return window if window != first else ""
+
+    def test_is_told_in_a_box_and_ends_nothing(self):
+        path = self.folder / "failing.db"
+        with sqlite3.connect(path) as database:
+            database.executescript("""
+                CREATE TABLE n(i); INSERT INTO n VALUES (1), (2), (-9223372036854775807 - 1), (4);
+                CREATE VIEW orders AS SELECT rowid AS id, 'Ada' AS customer, 'Bergen' AS city, '2024-01-01' AS ordered,
+                    abs(i) AS amount, 'NOK' AS currency, 1 AS paid, 0 AS shipped, '' AS phone, '' AS notes FROM n""")
+        desktop = Desktop({**self.environment, "QT_QPA_PLATFORM": "xcb", "XDG_RUNTIME_DIR": str(self.folder)})
+        self.addCleanup(desktop.close)
+        program = desktop.start([PROGRAM, "--database", str(path), "--log", "log"], cwd=self.folder)
+        log = self.folder / "log"
+        first = desktop.window("Orders")
+        wait_for("the box in front", lambda: desktop.ask("getactivewindow") not in ("", first))
+        desktop.save_picture(PICTURES / "orders-load-that-fails.png")
+        # One box tells of the walk that counts, one of the walk that reads.
+        for _ in range(2):
+            box = wait_for("a box in front", lambda: self.other_than(first, desktop.ask("getactivewindow")))
+            desktop.key("Return")
+            wait_for("the end of the box", lambda: desktop.ask("getactivewindow") not in ("", box))
+        wait_for("the window in front", lambda: desktop.ask("getactivewindow") == first)
+        wait_for("the telling of the host", lambda: "integer overflow" in log.read_text(encoding="utf-8"))
+        self.assertIsNone(program.poll())
+        desktop.key("alt+F4")
+        wait_for("the end of the program", lambda: program.poll() is not None)
+        self.assertEqual(program.returncode, 0)
+        self.assertEqual(cells_of(log)[2, 2], "Ada")
+
+
 class OrdersDrive(ProgramTest):
     def setUp(self):
         super().setUp()
