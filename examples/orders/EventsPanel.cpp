@@ -60,7 +60,6 @@ EventsPanel::EventsPanel(EventLog& log, QWidget* parent)
     list_->setUniformItemSizes(true);
     list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     list_->setTextElideMode(Qt::ElideRight);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
