@@ -26,20 +26,15 @@ qreal Placed(qreal begin, qreal room, qreal size, int third)
 
 } // namespace
 
-CellPainter::CellPainter(QPainter& painter, ShapedTextCache& texts, const QPalette& palette, qreal scale)
+CellPainter::CellPainter(QPainter& painter, ShapedTextCache& texts, const QPalette& palette, const DevicePixels& pixels)
     : painter_(painter)
     , texts_(texts)
     , palette_(palette)
-    , scale_(scale)
-    , line_(std::max(1.0, std::floor(scale)) / scale)
+    , pixels_(pixels)
+    , line_(std::max(1.0, std::floor(pixels.Scale())) / pixels.Scale())
     , lineColor_(Mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.2))
     , fixedLineColor_(Mixed(palette.color(QPalette::Button), palette.color(QPalette::ButtonText), 0.35))
 {
-}
-
-qreal CellPainter::Snapped(qreal position) const
-{
-    return std::round(position * scale_) / scale_;
 }
 
 void CellPainter::PaintEmpty(const QRectF& place)
@@ -82,8 +77,8 @@ void CellPainter::PaintText(const CellLook& cell, const QRectF& inner, const QCo
     const QStaticText& text = texts_.Shaped(cell.Text, static_cast<int>(room));
     const QSizeF size = text.size();
     const int alignment = cell.Alignment >= 0 && cell.Alignment <= lastAlignment ? cell.Alignment : 1;
-    const QPointF at(Snapped(Placed(inner.left() + textMargin, room, size.width(), alignment / 3)),
-                     Snapped(Placed(inner.top(), inner.height(), size.height(), alignment % 3)));
+    const QPointF at(pixels_.Across(Placed(inner.left() + textMargin, room, size.width(), alignment / 3)),
+                     pixels_.Down(Placed(inner.top(), inner.height(), size.height(), alignment % 3)));
     painter_.setPen(color);
     if (size.height() <= inner.height()) {
         painter_.drawStaticText(at, text);
@@ -97,11 +92,11 @@ void CellPainter::PaintText(const CellLook& cell, const QRectF& inner, const QCo
 
 void CellPainter::PaintArrow(const CellLook& cell, const QRectF& inner, const QColor& color)
 {
-    const qreal height = std::min(Snapped(inner.height() * 0.55), inner.width());
+    const qreal height = std::min(std::round(inner.height() * 0.55), inner.width());
     const qreal width = height * 0.6;
     const int alignment = std::clamp<int>(cell.PictureAlignment, 0, 8);
-    const qreal left = Snapped(Placed(inner.left(), inner.width(), width, alignment / 3));
-    const qreal top = Snapped(Placed(inner.top(), inner.height(), height, alignment % 3));
+    const qreal left = pixels_.Across(Placed(inner.left(), inner.width(), width, alignment / 3));
+    const qreal top = pixels_.Down(Placed(inner.top(), inner.height(), height, alignment % 3));
     const QPointF corners[] = {{left, top}, {left + width, top + height / 2}, {left, top + height}};
     painter_.setRenderHint(QPainter::Antialiasing, true);
     painter_.setPen(Qt::NoPen);

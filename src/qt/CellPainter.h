@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/DevicePixels.h"
 #include "qt/ShapedTextCache.h"
 
 #include <QColor>
@@ -30,13 +31,12 @@ struct CellLook {
 /// Paints cells in one pass of painting. Each is painted whole, so that nothing under it shines through.
 class CellPainter {
 public:
-    CellPainter(QPainter& painter, ShapedTextCache& texts, const QPalette& palette, qreal scale);
+    CellPainter(QPainter& painter, ShapedTextCache& texts, const QPalette& palette, const DevicePixels& pixels);
 
     void Paint(const CellLook& cell);
     void PaintEmpty(const QRectF& place); ///< Where no cells are.
 
 private:
-    [[nodiscard]] qreal Snapped(qreal position) const;
     void PaintText(const CellLook& cell, const QRectF& inner, const QColor& color);
     void PaintArrow(const CellLook& cell, const QRectF& inner, const QColor& color);
     void PaintFrame(const QRectF& inner);
@@ -44,7 +44,7 @@ private:
     QPainter& painter_;
     ShapedTextCache& texts_;
     const QPalette& palette_;
-    qreal scale_;
+    DevicePixels pixels_;
     qreal line_; ///< Width of a line: whole device pixels, about one logical.
     QColor lineColor_;
     QColor fixedLineColor_;

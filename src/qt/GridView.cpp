@@ -5,27 +5,9 @@
 
 #include <QPaintEvent>
 
-#include <algorithm>
 #include <cmath>
 
 namespace Tessellon {
-
-namespace {
-
-/// What lies between the corner of `view` and the whole device pixel ahead of it: on a scaled screen a widget may begin
-/// in the middle of one.
-QPointF BehindDevicePixel(const QWidget& view, qreal scale)
-{
-    constexpr qreal inexact = 1e-6;
-    const QPoint corner = view.mapTo(view.window(), QPoint(0, 0));
-    const auto rest = [&](int at) {
-        const qreal device = at * scale;
-        return std::max(device - std::floor(device + inexact), 0.0) / scale;
-    };
-    return {rest(corner.x()), rest(corner.y())};
-}
-
-} // namespace
 
 GridView::GridView(SheetFrame& frame)
     : QWidget(&frame)
@@ -40,31 +22,32 @@ GridView::GridView(SheetFrame& frame)
             [this] { frame_.Do([&] { frame_.Platform()->TheGrid().StepDrag(dragged_.X, dragged_.Y); }); });
 }
 
-qreal GridView::Snapped(std::int64_t twips) const
+qreal GridView::Pixels(std::int64_t twips) const
 {
-    const qreal scale = devicePixelRatioF();
-    const auto pixel = static_cast<qreal>(frame_.TheMetrics().TwipsAPixel());
-    return std::round(static_cast<qreal>(twips) / pixel * scale) / scale;
+    return static_cast<qreal>(twips) / static_cast<qreal>(frame_.TheMetrics().TwipsAPixel());
 }
 
 QRect GridView::PixelsAround(const GridRectangle& part) const
 {
-    const auto low = [&](std::int64_t twips) { return static_cast<int>(std::floor(Snapped(twips))); };
-    const auto high = [&](std::int64_t twips) { return static_cast<int>(std::ceil(Snapped(twips))); };
-    const int left = low(part.Left);
-    const int top = low(part.Top);
-    return {left, top, high(std::int64_t{part.Left} + part.Width) - left,
-            high(std::int64_t{part.Top} + part.Height) - top};
+    const qreal scale = devicePixelRatioF();
+    const DevicePixels pixels(scale, QPointF(mapTo(window(), QPoint(0, 0))) * scale);
+    const auto low = [](qreal edge) { return static_cast<int>(std::floor(edge)); };
+    const auto high = [](qreal edge) { return static_cast<int>(std::ceil(edge)); };
+    const int left = low(pixels.Across(Pixels(part.Left)));
+    const int top = low(pixels.Down(Pixels(part.Top)));
+    return {left, top, high(pixels.Across(Pixels(std::int64_t{part.Left} + part.Width))) - left,
+            high(pixels.Down(Pixels(std::int64_t{part.Top} + part.Height))) - top};
 }
 
-std::vector<GridView::Strip> GridView::RowsInView() const
+std::vector<GridView::Strip> GridView::RowsInView(const DevicePixels& pixels) const
 {
     const GridEngine& grid = frame_.Platform()->TheGrid();
     std::vector<Strip> strips;
     const auto add = [&](std::int32_t row) {
         const GridRectangle place = grid.RectangleOf({row, 0});
         if (place.Height > 0)
-            strips.push_back({row, Snapped(place.Top), Snapped(std::int64_t{place.Top} + place.Height)});
+            strips.push_back({row, place.Top == 0 ? pixels.Top() : pixels.Down(Pixels(place.Top)),
+                              pixels.Down(Pixels(std::int64_t{place.Top} + place.Height))});
     };
     add(0);
     const GridSpan visible = grid.VisibleRows();
@@ -73,14 +56,15 @@ std::vector<GridView::Strip> GridView::RowsInView() const
     return strips;
 }
 
-std::vector<GridView::Strip> GridView::ColsInView() const
+std::vector<GridView::Strip> GridView::ColsInView(const DevicePixels& pixels) const
 {
     const GridEngine& grid = frame_.Platform()->TheGrid();
     std::vector<Strip> strips;
     const auto add = [&](std::int32_t col) {
         const GridRectangle place = grid.RectangleOf({0, col});
         if (place.Width > 0)
-            strips.push_back({col, Snapped(place.Left), Snapped(std::int64_t{place.Left} + place.Width)});
+            strips.push_back({col, place.Left == 0 ? pixels.Left() : pixels.Across(Pixels(place.Left)),
+                              pixels.Across(Pixels(std::int64_t{place.Left} + place.Width))});
     };
     add(0);
     const GridSpan visible = grid.VisibleCols();
@@ -97,38 +81,34 @@ void GridView::FollowScreen()
         QMetaObject::invokeMethod(
             this, [this] { frame_.ScreenChanged(); }, Qt::QueuedConnection);
     pixel_ = pixel;
-    scale_ = devicePixelRatioF();
 }
 
 void GridView::paintEvent(QPaintEvent* event)
 {
     FollowScreen();
     GridEngine& grid = frame_.Platform()->TheGrid();
-    texts_.Use(QFont(QtFontOf(grid.GetFont()), this), scale_);
 
     QPainter painter(this);
+    const DevicePixels pixels = DevicePixels::Of(painter.deviceTransform());
+    texts_.Use(QFont(QtFontOf(grid.GetFont()), this), pixels.Scale());
     painter.setFont(texts_.Font());
-    const QPointF behind = BehindDevicePixel(*this, scale_);
-    painter.translate(-behind);
-    CellPainter cells(painter, texts_, palette(), scale_);
-    const std::vector<Strip> rows = RowsInView();
-    const std::vector<Strip> cols = ColsInView();
+    CellPainter cells(painter, texts_, palette(), pixels);
+    const std::vector<Strip> rows = RowsInView(pixels);
+    const std::vector<Strip> cols = ColsInView(pixels);
     const QRegion& due = event->region();
     for (const Strip& row : rows) {
         for (const Strip& col : cols) {
             const QRectF place(col.Begin, row.Begin, col.End - col.Begin, row.End - row.Begin);
-            if (due.intersects(place.translated(-behind).toAlignedRect()))
+            if (due.intersects(place.toAlignedRect()))
                 PaintCell(cells, {row.Index, col.Index}, place);
         }
     }
     const qreal right = cols.empty() ? 0 : cols.back().End;
     const qreal bottom = rows.empty() ? 0 : rows.back().End;
-    const qreal viewRight = width() + behind.x();
-    const qreal viewBottom = height() + behind.y();
-    if (right < viewRight)
-        cells.PaintEmpty({right, 0, viewRight - right, viewBottom});
-    if (bottom < viewBottom)
-        cells.PaintEmpty({0, bottom, right, viewBottom - bottom});
+    if (right < width())
+        cells.PaintEmpty({right, 0, width() - right, static_cast<qreal>(height())});
+    if (bottom < height())
+        cells.PaintEmpty({0, bottom, right, height() - bottom});
     if (due.contains(rect()))
         grid.Painted();
     frame_.Painted(due);

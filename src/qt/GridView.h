@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/grid/GridEngine.h"
+#include "qt/DevicePixels.h"
 #include "qt/ShapedTextCache.h"
 
 #include <QTimer>
@@ -47,9 +48,9 @@ private:
         qreal End;
     };
 
-    [[nodiscard]] qreal Snapped(std::int64_t twips) const;
-    [[nodiscard]] std::vector<Strip> RowsInView() const;
-    [[nodiscard]] std::vector<Strip> ColsInView() const;
+    [[nodiscard]] qreal Pixels(std::int64_t twips) const; ///< Logical ones, not rounded.
+    [[nodiscard]] std::vector<Strip> RowsInView(const DevicePixels& pixels) const;
+    [[nodiscard]] std::vector<Strip> ColsInView(const DevicePixels& pixels) const;
     void PaintCell(CellPainter& painter, GridCell cell, const QRectF& place);
     void FollowScreen();
 
@@ -61,7 +62,6 @@ private:
 
     SheetFrame& frame_;
     ShapedTextCache texts_;
-    qreal scale_ = 0;
     float pixel_ = 0; ///< Twips.
     QTimer dragging_; ///< Runs while a drag is held outside.
     GridMouse dragged_;

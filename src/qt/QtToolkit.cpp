@@ -41,14 +41,14 @@ float QtToolkit::ComboBoxHeight(const Font& font)
 std::int32_t QtToolkit::HorizontalScrollBarHeight()
 {
     // The grid asks while the frame is being made, too.
-    if (frame_ == nullptr || !frame_->HasBars())
+    if (frame_ == nullptr || !frame_->IsWhole())
         return 0;
     return frame_->TwipsOf(frame_->Bars().HorizontalHeight());
 }
 
 std::int32_t QtToolkit::VerticalScrollBarWidth()
 {
-    if (frame_ == nullptr || !frame_->HasBars())
+    if (frame_ == nullptr || !frame_->IsWhole())
         return 0;
     return frame_->TwipsOf(frame_->Bars().VerticalWidth());
 }
@@ -96,7 +96,7 @@ void QtToolkit::PaintNow()
 
 void QtToolkit::ScrollBarsChanged()
 {
-    if (frame_ != nullptr && frame_->HasBars())
+    if (frame_ != nullptr && frame_->IsWhole())
         frame_->Bars().Changed();
 }
 
@@ -120,7 +120,7 @@ bool QtToolkit::CharacterInWidget(ControlCore& control, char16_t character)
 
 void QtToolkit::FocusMoved()
 {
-    if (frame_ != nullptr)
+    if (frame_ != nullptr && frame_->IsWhole())
         frame_->Echo().Follow();
 }
 

@@ -53,6 +53,7 @@ SheetFrame::SheetFrame(Conduct conduct, Locale locale, QWidget* parent)
     , bars_(std::make_unique<GridScrollBars>(*this))
     , echo_(std::make_unique<FocusEcho>(*this))
 {
+    isWhole_ = true;
     setFocusPolicy(Qt::TabFocus);
     if (conduct_ == Conduct::Desktop)
         platform_->TheFocus().WindowOut();
@@ -60,6 +61,7 @@ SheetFrame::SheetFrame(Conduct conduct, Locale locale, QWidget* parent)
 
 SheetFrame::~SheetFrame()
 {
+    isWhole_ = false;
     ShowPointer(0);
     toolkit_->Detach();
 }
@@ -67,7 +69,7 @@ SheetFrame::~SheetFrame()
 /// A widget is never destroyed inside its own event: what is running here returns into widgets that are still there.
 void SheetFrame::Drop(SheetFrame* frame)
 {
-    frame->isDropped_ = true;
+    frame->isWhole_ = false;
     frame->toolkit_->Detach();
     frame->echo_->Stop();
     if (frame->activities_ == 0) {
@@ -119,7 +121,7 @@ void SheetFrame::ScreenChanged()
 void SheetFrame::Invalidate(const GridRectangle& part)
 {
     constexpr int mostParts = 64;
-    if (!HasBars() || !view_->isVisible())
+    if (!isWhole_ || !view_->isVisible())
         return;
     const QRect pixels = view_->PixelsAround(part);
     view_->update(pixels);
@@ -130,7 +132,7 @@ void SheetFrame::Invalidate(const GridRectangle& part)
 
 void SheetFrame::PaintNow()
 {
-    if (!HasBars())
+    if (!isWhole_)
         return;
     bars_->FollowIfDue();
     // What an activity leads to is painted in one: an editor that goes from cell to cell is never seen gone.
@@ -143,7 +145,7 @@ void SheetFrame::PaintNow()
 
 void SheetFrame::ShowControl(ControlCore& control, Aspect aspect)
 {
-    if (!HasBars())
+    if (!isWhole_)
         return;
     if (control.Which() == Child::Text1)
         text_->Follow(aspect);
@@ -166,7 +168,7 @@ void SheetFrame::ShowMessage(const QString& text)
     box->exec();
     isMessageUp_ = false;
     delete box;
-    if (!isDropped_ && isVisible() && !isActiveWindow())
+    if (isWhole_ && isVisible() && !isActiveWindow())
         activateWindow();
 }
 
@@ -187,13 +189,13 @@ void SheetFrame::ResizeSheet()
 {
     const float pixel = metrics_->TwipsAPixel();
     Do([&] { platform_->Resize(static_cast<float>(width()) * pixel, static_cast<float>(height()) * pixel); });
-    if (!isDropped_)
+    if (isWhole_)
         bars_->Follow();
 }
 
 bool SheetFrame::event(QEvent* event)
 {
-    if (isDropped_ || !HasBars())
+    if (!isWhole_)
         return QWidget::event(event);
     switch (event->type()) {
     case QEvent::WindowActivate: Do([&] { platform_->TheFocus().WindowIn(); }); break;

@@ -43,7 +43,7 @@ public:
     [[nodiscard]] Metrics& TheMetrics() const { return *metrics_; }
     [[nodiscard]] KeyInput& TheKeyInput() const { return *keys_; }
     [[nodiscard]] FocusEcho& Echo() const { return *echo_; }
-    [[nodiscard]] bool HasBars() const { return bars_ != nullptr; } ///< Not yet while the platform is being made.
+    [[nodiscard]] bool IsWhole() const { return isWhole_; } ///< Not while it is being made, nor while it goes.
     [[nodiscard]] GridScrollBars& Bars() const { return *bars_; }
 
     /// Runs what the user does; nothing of it reaches Qt's event loop as an exception. This widget, and all that is in
@@ -103,6 +103,7 @@ private:
     friend class Activity;
     void ResizeSheet();
 
+    bool isWhole_ = false; ///< Asked before the others are there, and behind them.
     Conduct conduct_;
     std::unique_ptr<Metrics> metrics_;
     std::shared_ptr<QtToolkit> toolkit_;
@@ -114,7 +115,6 @@ private:
     std::unique_ptr<GridScrollBars> bars_;
     std::unique_ptr<FocusEcho> echo_;
     int activities_ = 0;
-    bool isDropped_ = false;
     bool isMessageUp_ = false;
     bool isWaiting_ = false; ///< The hourglass is shown.
     QElapsedTimer activitySince_;

@@ -172,29 +172,36 @@ TEST(ShapedTexts, TextsThatAreNotPaintedAnyMore_GoInTheEnd)
     EXPECT_LE(texts.Count(), 2U * 4096U);
 }
 
-TEST(CellsOnTheScreen, LinesAreCrisp_AtEveryScale)
+TEST(CellsOnTheScreen, LinesAreCrisp_AtEveryScale_WhereverTheWidgetBegins)
 {
     for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
-        QImage image(static_cast<int>(std::lround(80 * scale)), static_cast<int>(std::lround(16 * scale)),
-                     QImage::Format_RGB32);
-        image.setDevicePixelRatio(scale);
-        image.fill(Qt::magenta);
-        QPainter painter(&image);
-        ShapedTextCache texts;
-        texts.Use(QFont(), scale);
-        const QPalette palette(Qt::lightGray);
-        CellPainter cells(painter, texts, palette, scale);
-        // Edges at whole device pixels, as the view rounds them.
-        const double middle = std::round(40.3 * scale) / scale;
-        const double bottom = std::round(16.0 * scale) / scale;
-        const double right = std::round(80.0 * scale) / scale;
-        cells.Paint({.Place = QRectF(0, 0, middle, bottom), .Text = {}, .Color = 0x00FFFFFF});
-        cells.Paint({.Place = QRectF(middle, 0, right - middle, bottom), .Text = {}, .Color = 0x00FFFFFF});
-        painter.end();
-        std::set<QRgb> colors;
-        for (int x = 0; x < image.width(); ++x)
-            colors.insert(image.pixel(x, 2));
-        EXPECT_EQ(colors.size(), 2U) << "white and the lines, nothing between, at " << scale;
+        for (const int begin : {0, 1, 11, 13}) {
+            QImage image(static_cast<int>(std::lround(80 * scale)), static_cast<int>(std::lround(16 * scale)),
+                         QImage::Format_RGB32);
+            image.setDevicePixelRatio(scale);
+            image.fill(Qt::magenta);
+            QPainter painter(&image);
+            painter.translate(begin, 0);
+            const DevicePixels pixels = DevicePixels::Of(painter.deviceTransform());
+            ShapedTextCache texts;
+            texts.Use(QFont(), scale);
+            const QPalette palette(Qt::lightGray);
+            CellPainter cells(painter, texts, palette, pixels);
+            double left = pixels.Left();
+            const double first = left;
+            for (const double edge : {20.3, 33.4, 47.1, 60.0}) {
+                const double right = pixels.Across(edge);
+                cells.Paint({.Place = QRectF(left, 0, right - left, pixels.Down(16)), .Text = {}, .Color = 0x00FFFFFF});
+                left = right;
+            }
+            painter.end();
+            std::set<QRgb> colors;
+            const auto device = [&](double x) { return static_cast<int>(std::lround((x + begin) * scale)); };
+            EXPECT_EQ(device(first), static_cast<int>(std::floor(begin * scale)));
+            for (int x = device(first); x < device(left); ++x)
+                colors.insert(image.pixel(x, 2));
+            EXPECT_EQ(colors.size(), 2U) << "white and the lines, nothing between, at " << scale << " from " << begin;
+        }
     }
 }
 
