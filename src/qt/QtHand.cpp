@@ -78,32 +78,44 @@ void QtHand::PressAndRelease(GridCell cell, QEvent::Type press)
         SendToCell(cell, QEvent::MouseButtonRelease);
 }
 
+void QtHand::DropFailedPress()
+{
+    if (hasFailed_)
+        frame_.Platform()->TheGrid().AbandonPress();
+}
+
 void QtHand::Click(std::int32_t row, std::int32_t col)
 {
     if (Reach({row, col}))
         PressAndRelease({row, col}, QEvent::MouseButtonPress);
+    DropFailedPress();
 }
 
 void QtHand::DoubleClick(std::int32_t row, std::int32_t col)
 {
-    if (!Reach({row, col}))
-        return;
-    PressAndRelease({row, col}, QEvent::MouseButtonPress);
-    if (!hasFailed_ && IsInFront())
-        PressAndRelease({row, col}, QEvent::MouseButtonDblClick);
+    if (Reach({row, col})) {
+        PressAndRelease({row, col}, QEvent::MouseButtonPress);
+        if (!hasFailed_ && IsInFront())
+            PressAndRelease({row, col}, QEvent::MouseButtonDblClick);
+    }
+    DropFailedPress();
 }
 
 void QtHand::Drag(std::int32_t row, std::int32_t col, std::int32_t toRow, std::int32_t toCol)
 {
     GridEngine& grid = frame_.Platform()->TheGrid();
-    if (toRow < 0 || toCol < 0 || toRow >= grid.Rows() || toCol >= grid.Cols() || !Reach({row, col}))
+    hasFailed_ = false;
+    if (toRow < 0 || toCol < 0 || toRow >= grid.Rows() || toCol >= grid.Cols() || !Reach({row, col})) {
+        DropFailedPress();
         return;
+    }
     SendToCell({row, col}, QEvent::MouseButtonPress);
-    if (hasFailed_ || !frame_.View().WasPressTaken())
-        return;
-    SendToCell({toRow, toCol}, QEvent::MouseMove);
-    if (!hasFailed_)
-        SendToCell({toRow, toCol}, QEvent::MouseButtonRelease);
+    if (!hasFailed_ && frame_.View().WasPressTaken()) {
+        SendToCell({toRow, toCol}, QEvent::MouseMove);
+        if (!hasFailed_)
+            SendToCell({toRow, toCol}, QEvent::MouseButtonRelease);
+    }
+    DropFailedPress();
 }
 
 void QtHand::MouseDown(float x, float y)

@@ -35,6 +35,7 @@ private:
     /// Shows a cell whole, as the scroll bars do; false if there is none, or nobody takes a press.
     bool Reach(GridCell cell);
     void PressAndRelease(GridCell cell, QEvent::Type press);
+    void DropFailedPress(); ///< A failure in a press takes the release with it: the button is up again behind it.
     void SendToCell(GridCell cell, QEvent::Type type);
     void Send(QEvent::Type type, QPointF position);
     [[nodiscard]] QPointF PixelsOf(float x, float y) const;
