@@ -7,8 +7,8 @@
 #include "qt/TextBoxWidget.h"
 #include "qt/Texts.h"
 
-#include <QApplication>
 #include <QClipboard>
+#include <QGuiApplication>
 
 #include <cmath>
 
@@ -126,7 +126,8 @@ void QtToolkit::FocusMoved()
 
 void QtToolkit::Bell()
 {
-    QApplication::beep();
+    if (frame_ != nullptr)
+        frame_->Ring();
 }
 
 void QtToolkit::Copy(std::u16string_view text)

@@ -172,6 +172,14 @@ void SheetFrame::ShowMessage(const QString& text)
         activateWindow();
 }
 
+void SheetFrame::Ring()
+{
+    if (OnBell)
+        OnBell();
+    else
+        QApplication::beep();
+}
+
 void SheetFrame::ShowPointer(std::int16_t shape)
 {
     constexpr std::int16_t hourglass = 11;

@@ -81,11 +81,13 @@ public:
     void PaintNow();
     void ShowControl(ControlCore& control, Aspect aspect);
     void ShowMessage(const QString& text);
+    void Ring();
     void ShowPointer(std::int16_t shape); ///< 11 the hourglass, else none of its own.
     bool GoOn(bool forward) { return focusNextPrevChild(forward); } ///< Qt's focus goes to the next tab stop.
 
     /// Hears a message instead of a box; the box is then closed at once.
     std::function<void(const QString&)> OnMessage;
+    std::function<void()> OnBell; ///< Hears the bell instead of the user.
 
 signals:
     void UnhandledFailure(int number, const QString& source, const QString& description);
