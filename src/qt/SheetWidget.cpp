@@ -1,5 +1,6 @@
 #include "qt/SheetWidget.h"
 
+#include "engine/DefaultProperties.h"
 #include "qt/QtLocale.h"
 #include "qt/SheetFrame.h"
 #include "qt/SheetWidgetParts.h"
@@ -11,26 +12,12 @@
 
 namespace Tessellon {
 
-namespace {
-
-/// The widget's own properties are kept by whoever keeps widgets: the sheet starts from the defaults.
-struct Defaults : PropertyBag {
-    Tessellon::Font ReadFont(std::u16string_view /*name*/, const Tessellon::Font& byDefault) override
-    {
-        return byDefault;
-    }
-    bool ReadTruth(std::u16string_view /*name*/, bool byDefault) override { return byDefault; }
-    void WriteFont(std::u16string_view, const Tessellon::Font&, const Tessellon::Font&) override {}
-    void WriteTruth(std::u16string_view, bool, bool) override {}
-};
-
-} // namespace
-
 SheetWidget::SheetWidget(QWidget* parent)
     : QWidget(parent)
     , parts_(std::make_unique<Parts>(*this))
 {
-    Defaults defaults;
+    // The widget's own properties are kept by whoever keeps widgets.
+    DefaultProperties defaults;
     parts_->Sheet->UserControl_ReadProperties(defaults);
     setFocusProxy(parts_->Frame);
     ConnectEvents();

@@ -29,8 +29,8 @@ using SheetPointer = std::unique_ptr<TessellonSheet, EndSheet>;
 /// text only, and editors write them at once.
 ///
 /// A bad argument is ignored without a word, a read out of range gives the empty value. A failure inside the sheet is
-/// consumed where it arises and told by ErrInfo and, while ShowErrMessage is True, by a message box; only BackColor,
-/// and DataSource without a connection, let one out to the host, as an exception of type Failure.
+/// consumed where it arises and told by ErrInfo and, while ShowErrMessage is True, by a message box; BackColor, Font,
+/// Enabled, the property bag's two, and DataSource without a connection, let one out, as an exception of type Failure.
 class TessellonSheet : private SheetMembers, private EventSink {
 public:
     /// A new sheet on a platform of its own, with no columns and all editors hidden. It shares RaiseError and
