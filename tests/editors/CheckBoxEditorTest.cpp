@@ -114,13 +114,19 @@ TEST_F(CheckBoxEditor, Escape_WritesWhateverTheNumberOfRows)
 
 TEST_F(CheckBoxEditor, Enter_WritesTheValueThenStandsDownThenAdvances)
 {
-    Value(2);
     SetCell(2, 2, u"x");
-    Forget();
     const EventArguments after = TellKey(Child::Check1, Key::Enter);
-    EXPECT_EQ(First(CallsOn("Check1"), 2), (Lines{"MSFlexGrid1.TextMatrix(2,2)=\"False\"", "Check1.Visible=False"}));
+    EXPECT_EQ(First(CallsOn("Check1"), 2), (Lines{"MSFlexGrid1.TextMatrix(2,2)=\"True\"", "Check1.Visible=False"}));
     EXPECT_EQ(Cursor(), Place(2, 3));
     EXPECT_EQ(after.KeyCode, Key::Enter);
+}
+
+TEST_F(CheckBoxEditor, EnterInTheGreyState_WritesFalse)
+{
+    Value(2);
+    SetCell(2, 2, u"x");
+    TellKey(Child::Check1, Key::Enter);
+    EXPECT_EQ(Cell(2, 2), u"False");
 }
 
 TEST_F(CheckBoxEditor, EnterInAColumnOfAnotherKind_WritesAllTheSame)

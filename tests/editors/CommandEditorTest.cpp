@@ -73,16 +73,22 @@ TEST_F(CommandEditor, HostThatFailsInButtonClick_IsReportedUnderTheLabelOfTheCli
 
 // ---- Keys -----------------------------------------------------------------------------------------------------------
 
-TEST_F(CommandEditor, EnterAndSpace_PressTheButtonAndAreEaten)
+TEST_F(CommandEditor, Enter_TellsTheClickAsksForTheAdvanceAndLeavesTheButtonUp)
 {
-    for (const std::int16_t code : {Key::Enter, Key::Space}) {
-        EXPECT_EQ(TellKey(Child::Command1, code).KeyCode, 0);
-        EXPECT_EQ(Sheet.TakeEvents(), (Lines{"ButtonClick ButtonIndex=0", "UseAdvanceToNextCell Use=False"}));
-        EXPECT_EQ(Cursor(), Place(2, 2));
-        EXPECT_EQ(Sheet.EditorsUp().size(), 1U);
-    }
-    TellKey(Child::Command1, Key::Enter, 1);
+    Sheet.Press(Key::Enter);
+    EXPECT_EQ(Sheet.TakeEvents(), (Lines{"ButtonClick ButtonIndex=0", "UseAdvanceToNextCell Use=False"}));
+    EXPECT_EQ(Cursor(), Place(2, 2));
+    EXPECT_EQ(Sheet.EditorsUp().size(), 1U);
+    EXPECT_EQ(TellKey(Child::Command1, Key::Enter, 1).KeyCode, 0);
     EXPECT_EQ(Sheet.TakeEvents().front(), "ButtonClick ButtonIndex=1");
+}
+
+TEST_F(CommandEditor, Space_DoesWhatEnterDoesAndIsEaten)
+{
+    EXPECT_EQ(TellKey(Child::Command1, Key::Space).KeyCode, 0);
+    EXPECT_EQ(Sheet.TakeEvents(), (Lines{"ButtonClick ButtonIndex=0", "UseAdvanceToNextCell Use=False"}));
+    EXPECT_EQ(Cursor(), Place(2, 2));
+    EXPECT_EQ(Sheet.EditorsUp().size(), 1U);
 }
 
 TEST_F(CommandEditor, EnterWhoseClickFails_IsEatenAllTheSame)

@@ -124,11 +124,27 @@ TEST_F(MaskEditor, DigitTypedAndDeletedAgain_LeavesTheCellEmpty)
     EXPECT_EQ(Cell(2, maskCol), u"");
 }
 
-TEST_F(MaskEditor, UntouchedCell_KeepsWhatItHadWhenTheUserClicksAway)
+TEST_F(MaskEditor, UntouchedCell_KeepsWhatItHadThroughTabAndAClickElsewhere)
 {
     SetCell(2, maskCol, u"left alone");
+    Sheet.Press(Key::Tab);
+    EXPECT_EQ(Writes(), Lines());
     Sheet.Hand.Click(3, 1);
     EXPECT_EQ(Cell(2, maskCol), u"left alone");
+}
+
+TEST_F(MaskEditor, UntouchedMask_LeavesTheCellEmptyWhateverItsLiterals)
+{
+    const std::u16string masks[] = {u"##/##/####", u"(###) ###-####", u"\\A-##",   u">AA<aa",    u"99:99",
+                                    u"&&-CC?",     u"\\##\\\\#",      u">&&<##-x", u"$#,###.##", u" ## - ## "};
+    for (const std::u16string& mask : masks) {
+        Sheet->CreateColumnDataType(maskCol, u"m", fcMaskedEditBox, mask, false, fcLeft, 40, faNil, true);
+        Sheet->BuildGridColumns();
+        GoTo(2, maskCol, u"");
+        SetCell(2, maskCol, u"x");
+        Sheet.Press(Key::Delete);
+        EXPECT_EQ(Writes(), Lines{"MSFlexGrid1.TextMatrix(2,2)=\"\""}) << Utf8(mask);
+    }
 }
 
 TEST_F(MaskEditor, ColumnWithoutMask_GetsTheFormattedTextAtEveryReleaseOfATypingKey)
@@ -137,6 +153,17 @@ TEST_F(MaskEditor, ColumnWithoutMask_GetsTheFormattedTextAtEveryReleaseOfATyping
     SetCell(2, formatCol, u"x");
     Release(Key::Delete, 1);
     EXPECT_EQ(Cell(2, formatCol), u"7.00");
+}
+
+TEST_F(MaskEditor, ColumnWithoutMask_GetsTheShownTextEvenWhereItIsTheFormatItself)
+{
+    Sheet.Column(formatCol, fcMaskedEditBox, u"0");
+    Sheet->BuildGridColumns();
+    GoTo(2, formatCol, u"0");
+    ASSERT_EQ(Members.MaskBuffer, Box(1).FormattedText());
+    SetCell(2, formatCol, u"x");
+    Sheet.Type(u"0");
+    EXPECT_EQ(Cell(2, formatCol), u"0");
 }
 
 // ---- Release of a key -----------------------------------------------------------------------------------------------
@@ -224,7 +251,7 @@ TEST_F(MaskEditor, Enter_HidesAndDisablesThenWritesThenSendsToTheBackThenAdvance
     EXPECT_EQ(after.KeyCode, 0);
 }
 
-TEST_F(MaskEditor, EnterInACellThatWasEmptyOnEntry_WritesNothingAndAdvances)
+TEST_F(MaskEditor, EnterInACellThatWasEmptyOnEntry_WritesNothingAdvancesAndIsEaten)
 {
     GoTo(2, maskCol, u"");
     ASSERT_FALSE(Members.MaskCellHadText);
@@ -289,6 +316,16 @@ TEST_F(MaskEditor, Escape_WritesTheTrimmedTagAndStandsDownWithoutAdvance)
     EXPECT_FALSE(Members.ShowEditorRequest);
     EXPECT_EQ(Sheet.TakeEvents(), Lines());
     EXPECT_EQ(Sheet.EditorsUp(), Lines());
+}
+
+TEST_F(MaskEditor, EscapeBehindTyping_BringsBackWhatTheCellHadOnEntry)
+{
+    Sheet.Type(u"98");
+    ASSERT_EQ(Cell(2, maskCol), u"98/34");
+    Sheet.Press(Key::Escape);
+    EXPECT_EQ(Cell(2, maskCol), u"12/34");
+    EXPECT_EQ(Sheet.EditorsUp(), Lines());
+    EXPECT_EQ(Cursor(), Place(2, maskCol));
 }
 
 TEST_F(MaskEditor, EscapeWithoutRows_WritesNothingAndStandsDown)

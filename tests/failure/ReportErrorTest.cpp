@@ -111,6 +111,30 @@ TEST_F(Report, ByDefault_ShowsTheBoxAndThenTellsAnEmptyRecord)
     EXPECT_EQ(Sheet.TakeEvents(), (Lines{outOfMemoryBox, emptyErrInfo}));
 }
 
+TEST_F(Report, WithoutTheBox_TellsTheFailureWithDescriptionAndSourceCrossed)
+{
+    Sheet->ShowErrMessage(false);
+    FailInTextMatrix();
+    EXPECT_EQ(Sheet.TakeEvents(), Lines{ErrInfo(7, "Out of memory", "MSFlexGrid1")});
+}
+
+TEST_F(Report, RaisingWithoutTheBox_ChangesNothing)
+{
+    Sheet->ShowErrMessage(false);
+    FailInTextMatrix();
+    const Lines heard = Sheet.TakeEvents();
+    Sheet->RaiseError(true);
+    FailInTextMatrix();
+    EXPECT_EQ(Sheet.TakeEvents(), heard);
+}
+
+TEST_F(Report, RaisingInPlaceOfTheBox_ShowsNoneAndTheCallReturns)
+{
+    Sheet->RaiseError(true);
+    EXPECT_NO_THROW(FailInTextMatrix());
+    EXPECT_EQ(CountOf(Sheet.TakeEventNames(), "box"), 0);
+}
+
 TEST_F(Report, LeavesTheRecordEmpty)
 {
     Sheet->ShowErrMessage(false);

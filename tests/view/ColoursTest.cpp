@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <tuple>
+
 namespace Tessellon {
 namespace {
 
@@ -141,6 +144,23 @@ TEST_F(Colours, ViewThatMoved_IsPutBack)
     EXPECT_EQ(Only(calls, {"MSFlexGrid1.LeftCol"}), Lines{});
 }
 
+TEST_F(Colours, BackColor_KeepsViewAndCursorAndLetsTheSelectionGo)
+{
+    Sheet->Add(3, 60);
+    Sheet.Hand.Scroll(10, 1);
+    Sheet.Hand.Drag(12, 2, 14, 1);
+    ASSERT_EQ(Grid().RowSel(), 14);
+    Sheet->BackColor(1, Yellow);
+    EXPECT_EQ(Grid().TopRow(), 10);
+    EXPECT_EQ(Grid().LeftCol(), 1);
+    EXPECT_EQ(Grid().Row(), 12);
+    EXPECT_EQ(Grid().Col(), 2);
+    EXPECT_EQ(Sheet->Row(), 12);
+    EXPECT_EQ(Sheet->Col(), 2);
+    EXPECT_EQ(Grid().RowSel(), 12);
+    EXPECT_EQ(Grid().ColSel(), 2);
+}
+
 TEST_F(Colours, CursorAsTheSheetKnowsIt_IsPutBackToo)
 {
     Sheet->ErrInfo += [&](auto&&...) { Members.CurrentRow = Members.CurrentCol = 2; };
@@ -255,6 +275,31 @@ TEST_F(Colours, Marker_IsShownByAWalkThatComesBack)
     EXPECT_EQ(Grid().PictureAlignmentOf({2, 0}), 4);
     EXPECT_EQ(Grid().PictureOf({2, 1}), Picture::None);
     EXPECT_EQ(Sheet.TakeEvents(), Lines{});
+}
+
+TEST_F(Colours, Marker_TouchesNoDataCell)
+{
+    const auto dataCells = [&] {
+        std::vector<std::tuple<std::u16string, std::optional<std::int32_t>, Picture, std::int16_t>> cells;
+        for (std::int32_t row = 1; row < Grid().Rows(); ++row) {
+            for (std::int32_t col = 1; col < Grid().Cols(); ++col) {
+                const GridCell cell{row, col};
+                cells.emplace_back(Grid().TextMatrix(row, col), Grid().ColorOf(cell), Grid().PictureOf(cell),
+                                   Grid().PictureAlignmentOf(cell));
+            }
+        }
+        return cells;
+    };
+    Sheet->TextMatrix(2, 1, u"kept");
+    const auto before = dataCells();
+    ASSERT_EQ(before.size(), 6U);
+    for (std::int32_t row = 1; row <= 3; ++row) {
+        EXPECT_TRUE(Probe.RefreshPicture(ptArrow, row));
+        EXPECT_EQ(Grid().PictureOf({row, 0}), Picture::Arrow);
+        EXPECT_EQ(dataCells(), before);
+        EXPECT_TRUE(Probe.RefreshPicture(ptNone, row));
+        EXPECT_EQ(dataCells(), before);
+    }
 }
 
 TEST_F(Colours, MarkerTakenAway_LeavesNoPicture)

@@ -78,6 +78,15 @@ TEST_F(Geometry, RowsInViewOfRowsWithoutHeight_FailAndStay)
     EXPECT_EQ(Members.VisibleRows, 5);
 }
 
+TEST_F(Geometry, Resize_LeavesTheRowsInViewAsTheyWereCounted)
+{
+    Sheet->RowHeight(240, false, false);
+    ASSERT_EQ(Members.VisibleRows, 17);
+    Sheet.Platform->Resize(9600, 1200);
+    EXPECT_EQ(Members.ControlHeight, 1200);
+    EXPECT_EQ(Members.VisibleRows, 17);
+}
+
 // ---- Keeping the last row in view ----------------------------------------------------------------------------------
 
 TEST_F(Geometry, ViewBeforeTheFirstRowHeight_IsNeverMoved)

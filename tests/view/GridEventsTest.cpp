@@ -231,6 +231,16 @@ TEST_F(GridEvents, PressOnTheHeaderBand_TakesTheEditorDownAndSkipsTheNextEntry)
     }
 }
 
+TEST_F(GridEvents, PressOnTheLowerEdgeOfTheHeaderBand_IsOnTheBandAlsoInTheMarkerColumn)
+{
+    Members.FirstVisibleCol = 2;
+    TellMouse(ChildEvent::MouseDown, 100, Members.InitialRowHeight);
+    EXPECT_FALSE(IsUp());
+    EXPECT_TRUE(Members.SkipEnterCell);
+    EXPECT_EQ(TheGrid().Col(), 1);
+    EXPECT_EQ(Only(Sheet.TakeCalls(), {"MSFlexGrid1."}), Lines());
+}
+
 TEST_F(GridEvents, PressOffTheHeaderBand_LeavesTheEditorUp)
 {
     for (const auto& [x, y] : {std::pair{1440.0F, 241.0F}, {9601.0F, 100.0F}, {-1.0F, 100.0F}, {1440.0F, -1.0F}}) {
@@ -340,6 +350,14 @@ TEST_F(GridEvents, Click_IsNotToldAsOneAndEntersTheCell)
     EXPECT_FALSE(Members.HideEditorRequest);
 }
 
+TEST_F(GridEvents, ClickOnAnotherCell_TellsItsEntryTwice)
+{
+    Sheet.Hand.Click(2, 2);
+    EXPECT_EQ(CountOf(Sheet.TakeEvents(), "EnterCell"), 2);
+    Sheet.Hand.Click(2, 2);
+    EXPECT_EQ(CountOf(Sheet.TakeEvents(), "EnterCell"), 1) << "the cell was current already";
+}
+
 TEST_F(GridEvents, ClickOnACellWithoutAnEditor_LeavesTheRequestToHide)
 {
     Members.ColumnData.at(0).cdControlType = fcNil;
@@ -387,6 +405,7 @@ TEST_F(GridEvents, ClickOnTheLastRow_MovesTheViewAheadOfTheEditor)
     const Lines calls = Sheet.TakeCalls();
     EXPECT_LT(PlaceOf(calls, "MSFlexGrid1.TopRow=28"), PlaceOf(calls, "Text1.Visible=True"));
     EXPECT_TRUE(IsUp());
+    EXPECT_EQ(Sheet.Platform->Text1()->Top(), static_cast<float>(TheGrid().CellTop()));
 }
 
 // ---- A change of the cell -------------------------------------------------------------------------------------------
