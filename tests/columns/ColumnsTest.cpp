@@ -95,8 +95,16 @@ TEST_F(Columns, DeclarationOutsideTheColumns_IsIgnored)
     ExpectBlank(Of(1));
     ExpectBlank(Of(2));
     EXPECT_EQ(Sheet.TakeEvents(), Lines{});
-    Declare(2, u"A");
-    EXPECT_EQ(Of(2).cdColName, u"A");
+}
+
+TEST_F(Columns, LastDeclarable_IsOneBelowTheNumberOfColumns)
+{
+    Sheet->Cols(3);
+    Declare(3, u"beyond");
+    Declare(2, u"last");
+    EXPECT_EQ(Of(2).cdColName, u"last");
+    EXPECT_EQ(Sheet->ColumnHeader(3), u"");
+    EXPECT_EQ(Sheet->Cols(), 3);
 }
 
 TEST_F(Columns, SettingOfBlanks_IsEmpty)
@@ -116,6 +124,18 @@ TEST_F(Columns, KindAndAlignmentThatAreNone_AreStored)
     EXPECT_EQ(static_cast<int>(Of(1).cdControlType), 77);
     EXPECT_EQ(static_cast<int>(Of(1).cdAlign), -5);
     EXPECT_EQ(static_cast<int>(Of(1).cdAutoAdjust), 9);
+}
+
+TEST_F(Columns, CombosWithATextColumnBetween_AreTheFirstTwoInstances)
+{
+    Sheet->Cols(4);
+    Sheet.Column(1, fcComboBox, u"a");
+    Sheet.Column(2, fcTextBox);
+    Sheet.Column(3, fcComboBox, u"b");
+    Sheet->BuildGridColumns();
+    EXPECT_EQ(Of(1).cdControlIndex, 0);
+    EXPECT_EQ(Of(3).cdControlIndex, 1);
+    EXPECT_EQ(Sheet.Platform->Combo1().Count(), 2);
 }
 
 TEST_F(Columns, MaskLongerThanTheField_SetsTheLengthOfMaskedColumnsAlone)
@@ -260,8 +280,11 @@ TEST_F(Columns, MoreDescriptors_KeepTheOldAndAddDefaults)
     Members.ColumnData[2].cdControlIndex = 5;
     Probe.ReConstructArray(3, 5);
     ASSERT_EQ(Members.ColumnData.size(), 5U);
-    EXPECT_EQ(Of(1).cdColName, u"A");
-    EXPECT_EQ(Of(3).cdControlSettingString, u"set");
+    for (std::int32_t col = 1; col <= 3; ++col) {
+        EXPECT_EQ(Of(col).cdColName, u"A");
+        EXPECT_EQ(Of(col).cdControlSettingString, u"set");
+        EXPECT_TRUE(Of(col).cdHidden);
+    }
     EXPECT_EQ(Of(3).cdControlIndex, 5);
     ExpectDefault(Of(4), 4);
     ExpectDefault(Of(5), 5);
@@ -275,6 +298,7 @@ TEST_F(Columns, FewerDescriptors_DropTheLast)
     Probe.ReConstructArray(5, 3);
     ASSERT_EQ(Members.ColumnData.size(), 3U);
     EXPECT_EQ(Of(1).cdColName, u"A1");
+    EXPECT_EQ(Of(2).cdColName, u"A2");
     EXPECT_EQ(Of(3).cdColName, u"A3");
 }
 

@@ -27,6 +27,20 @@ protected:
         return all;
     }
 
+    Grid& TheGrid() { return Sheet.Platform->MSFlexGrid1(); }
+    void ExpectRefused(std::int32_t row, std::int32_t count)
+    {
+        Sheet.Hand.Click(1, 1);
+        ASSERT_EQ(Sheet.EditorsUp().size(), 1U);
+        Forget();
+        Sheet->Add(row, count);
+        EXPECT_EQ(Sheet.EditorsUp(), Lines());
+        EXPECT_EQ(Only(Sheet.TakeCalls(), {"MSFlexGrid1.AddItem"}), Lines());
+        EXPECT_EQ(Sheet->Rows(), 4);
+        EXPECT_TRUE(Members.GridReady);
+        EXPECT_EQ(Only(Sheet.TakeEvents(), {"ErrInfo"}), Lines());
+    }
+
     SheetUnderTest Sheet;
     SheetProbe Probe{*Sheet};
     SheetMembers& Members = Probe.Members();
@@ -104,45 +118,64 @@ TEST_F(AddingRows, ManyAtOnce_StandOneUnderTheOtherAndTheFirstIsGoneTo)
     EXPECT_EQ(Members.RowCount, 7);
 }
 
+TEST_F(AddingRows, ThreeAtOnce_SelectTheFirstAndPutItOnTopOfTheView)
+{
+    Sheet->Add(3, 60);
+    Sheet.Hand.Click(2, 2);
+    ASSERT_EQ(TheGrid().TopRow(), 2);
+    Sheet->Add(30, 3);
+    EXPECT_EQ(TheGrid().TopRow(), 31);
+    EXPECT_EQ(TheGrid().Row(), 31);
+    EXPECT_EQ(TheGrid().RowSel(), 31);
+    EXPECT_EQ(TheGrid().Col(), 1);
+    EXPECT_EQ(TheGrid().ColSel(), 1);
+    EXPECT_EQ(Members.MarkerRow, 31);
+}
+
 TEST_F(AddingRows, ManyAtTheEnd_MoveTheFirstOfThemToTheTopOfTheView)
 {
     Sheet->Add(3, 40);
     EXPECT_EQ(Sheet->Row(), 4);
-    EXPECT_EQ(Sheet.Platform->MSFlexGrid1().TopRow(), 4);
+    EXPECT_EQ(TheGrid().TopRow(), 4);
     EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
 }
 
-TEST_F(AddingRows, OneAtTheEnd_KeepsTheTopRowUnlessTheViewMoves)
+TEST_F(AddingRows, OneAtTheEnd_KeepsTheTopRow)
 {
-    Forget();
     Sheet->Add(3);
     EXPECT_EQ(Only(Sheet.TakeCalls(), {"MSFlexGrid1.TopRow"}), Lines());
     EXPECT_EQ(Sheet->Row(), 4);
-
-    Members.VisibleRows = 3;
-    Forget();
-    Sheet->Add(4);
-    EXPECT_NE(Only(Sheet.TakeCalls(), {"MSFlexGrid1.TopRow"}), Lines());
-    EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
 }
 
-TEST_F(AddingRows, ThatAreRefused_AddNothingAndCloseTheEditor)
+TEST_F(AddingRows, OneAtTheEndThatMovesTheView_AsksTheEditorBack)
 {
-    const auto refused = [&](std::int32_t row, std::int32_t count) {
-        Sheet.Hand.Click(1, 1);
-        EXPECT_EQ(Sheet.EditorsUp().size(), 1U);
-        Forget();
-        Sheet->Add(row, count);
-        EXPECT_EQ(Sheet.EditorsUp(), Lines());
-        EXPECT_EQ(Only(Sheet.TakeCalls(), {"MSFlexGrid1.AddItem"}), Lines());
-        EXPECT_EQ(Sheet->Rows(), 4);
-        EXPECT_TRUE(Members.GridReady);
-    };
-    refused(-1, 1);
-    refused(1, 0);
-    refused(1, -1);
+    Members.VisibleRows = 3; // The last but two of the rows, heading included, goes to the top.
+    Sheet->Add(3);
+    EXPECT_EQ(Only(Sheet.TakeCalls(), {"MSFlexGrid1.TopRow"}).back(), "MSFlexGrid1.TopRow=3");
+    EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
+
+    Members.SkipEnterCell = true; // The cell entry asks for no editor itself.
+    Sheet->Add(4);
+    EXPECT_EQ(Sheet.EditorsUp(), Lines());
+    EXPECT_TRUE(Members.ShowEditorRequest);
+}
+
+TEST_F(AddingRows, WithoutLeave_AddNothingAndCloseTheEditor)
+{
+    ASSERT_EQ(Sheet.EditorsUp().size(), 1U);
     Sheet->AllowAddNew(false);
-    refused(1, 1);
+    ExpectRefused(1, 1);
+}
+
+TEST_F(AddingRows, BehindANegativeRow_AreRefused)
+{
+    ExpectRefused(-1, 1);
+}
+
+TEST_F(AddingRows, FewerThanOne_AreRefused)
+{
+    ExpectRefused(1, 0);
+    ExpectRefused(1, -1);
 }
 
 TEST_F(AddingRows, WithoutColumns_AreRefused)

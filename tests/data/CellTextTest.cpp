@@ -54,7 +54,6 @@ TEST_F(CellText, OfADate_GoesByTheSheetsFormatAndANullIsNothing)
     Sheet->DateFormat(u"yyyy-MM-dd HH:nn");
     EXPECT_EQ(Loaded(adDate, OfDate(date)), u"2024-03-15 18:00");
     EXPECT_EQ(Loaded(adDate, OfNull()), u"");
-    EXPECT_EQ(Loaded(adDate, OfDate(date), fcMaskedEditBox, u"0.00"), u"2024-03-15 18:00") << "no format of its own";
 }
 
 TEST_F(CellText, OfANumber_IsItsGeneralText)
@@ -74,16 +73,35 @@ TEST_F(CellText, OfANumberInAFormattedColumn_GoesByTheFormatAndANullAsZero)
     EXPECT_EQ(Loaded(131, OfDecimal(u"12345678901234567890.125"), fcMaskedEditBox, u"0.00"),
               u"12345678901234567890.13");
     EXPECT_EQ(Loaded(adInteger, OfInteger(5), fcMaskedEditBox, u"   "), u"5") << "blanks are no format";
-    EXPECT_EQ(Loaded(adInteger, OfInteger(5), fcMaskedEditBox, u"##", true), u"5") << "a mask is the editor's alone";
     EXPECT_EQ(Loaded(adInteger, OfInteger(5), fcTextBox, u"0.00"), u"5") << "no masked column";
+}
+
+TEST_F(CellText, OfADateTextOrTruthField_KnowsNoFormatOfTheColumn)
+{
+    constexpr double date = 45366.75;
+    EXPECT_EQ(Loaded(adDate, OfDate(date), fcMaskedEditBox, u"0.00"), u"15/03/2024");
+    EXPECT_EQ(Loaded(adVarWChar, OfText(u"7"), fcMaskedEditBox, u"0.00"), u"7");
+    EXPECT_EQ(Loaded(adVarWChar, OfNull(), fcMaskedEditBox, u"0.00"), u"");
+    EXPECT_EQ(Loaded(adBoolean, OfBoolean(true), fcMaskedEditBox, u"0.00"), u"True");
+}
+
+TEST_F(CellText, OfAColumnWithAMask_IsThePlainTextOfTheValue)
+{
+    EXPECT_EQ(Loaded(adInteger, OfInteger(512), fcMaskedEditBox, u"##-##", true), u"512");
+    EXPECT_EQ(Loaded(adInteger, OfNull(), fcMaskedEditBox, u"0.00", true), u"0");
+    EXPECT_EQ(Loaded(adVarWChar, OfText(u" 1234 "), fcMaskedEditBox, u"##-##", true), u"1234");
 }
 
 TEST_F(CellText, OfATextField_IsTrimmed)
 {
     EXPECT_EQ(Loaded(adVarWChar, OfText(u"  a b  ")), u"a b");
-    EXPECT_EQ(Loaded(adVarWChar, OfText(u"   ")), u"");
+    EXPECT_EQ(Loaded(adVarWChar, OfText(u"\ta\u00a0")), u"\ta\u00a0") << "of blanks alone";
     EXPECT_EQ(Loaded(adVarWChar, OfNull()), u"");
-    EXPECT_EQ(Loaded(adVarWChar, OfText(u"7"), fcMaskedEditBox, u"0.00"), u"7") << "a format is for numbers";
+}
+
+TEST_F(CellText, OfATextOfBlanks_IsEmpty)
+{
+    EXPECT_EQ(Loaded(adVarWChar, OfText(u"   ")), u"");
 }
 
 /// Tells how often a value was asked for.

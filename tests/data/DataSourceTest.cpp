@@ -1,4 +1,5 @@
 #include "data/LoadFixture.h"
+#include "support/SheetThatMeasuresCapitals.h"
 
 namespace Tessellon {
 namespace {
@@ -77,6 +78,13 @@ TEST_F(Load, WithoutColumns_OnlyBlinksThePointer)
     EXPECT_EQ(CallsOf(Texts({u"a"})), (Lines{"Screen.MousePointer=11", "Screen.MousePointer=0"}));
     EXPECT_EQ(Members.BoundRecordset, nullptr);
     EXPECT_FALSE(Members.LoadingRecordset);
+
+    Columns({fcTextBox});
+    Sheet->DataSource(Texts({u"a"}), Link);
+    const auto bound = Members.BoundRecordset;
+    Sheet->Cols(1);
+    EXPECT_EQ(CallsOf(Texts({u"b"})), (Lines{"Screen.MousePointer=11", "Screen.MousePointer=0"}));
+    EXPECT_EQ(Members.BoundRecordset, bound);
 }
 
 TEST_F(Load, OfNoRecords_KeepsTheOldRowsAndTakesTheRecordset)
@@ -148,7 +156,13 @@ TEST_F(Load, BringsTheFirstVisibleColumnIntoView)
     Sheet.Column(2, fcTextBox);
     Sheet.Column(3, fcTextBox);
     Sheet->BuildGridColumns();
+    Sheet->DataSource(Texts({u"a", u"b"}), Link);
+    for (const std::int32_t col : {2, 3})
+        Sheet->ColWidth(col, 9000);
+    Sheet.Hand.Scroll(1, 3);
+    ASSERT_EQ(Sheet.Platform->MSFlexGrid1().LeftCol(), 3);
     EXPECT_EQ(Only(CallsOf(Texts({u"a", u"b"})), {"MSFlexGrid1.LeftCol"}), Lines{"MSFlexGrid1.LeftCol=2"});
+    EXPECT_EQ(Sheet.Platform->MSFlexGrid1().LeftCol(), 2);
     EXPECT_EQ(Sheet->Col(), 2);
 }
 
@@ -222,7 +236,7 @@ TEST_F(LoadThatFitsWidths, ContentColumnThatGrows_IsPaintedAtOnce)
     EXPECT_EQ(calls[place + 3], "MSFlexGrid1.RowHeight(1)=240");
 }
 
-TEST_F(LoadThatFitsWidths, ColumnsOfOtherAdjustmentsOrOutOfSight_KeepTheirWidth)
+TEST_F(LoadThatFitsWidths, ColumnsOfOtherAdjustmentsOrOfWidthNought_KeepTheirWidth)
 {
     Column(faNil);
     EXPECT_EQ(Widths({u"abcdefghij"}), Lines());
@@ -231,10 +245,23 @@ TEST_F(LoadThatFitsWidths, ColumnsOfOtherAdjustmentsOrOutOfSight_KeepTheirWidth)
     Column(faContent);
     Sheet->ColWidth(1, 0);
     EXPECT_EQ(Widths({u"abcdefghij"}), Lines());
+}
+
+TEST_F(LoadThatFitsWidths, HiddenContentColumn_KeepsWidthNought)
+{
     Column(faContent, true);
     EXPECT_EQ(Widths({u"abcdefghij"}), Lines());
+    EXPECT_EQ(Sheet.Platform->MSFlexGrid1().ColWidth(1), 0);
     Sheet.Platform->MSFlexGrid1().ColWidth(1, 500);
     EXPECT_EQ(Widths({u"abcdefghij"}), Lines()) << "hidden, whatever its width";
+}
+
+TEST(LoadedText, IsMeasuredInCapitals)
+{
+    SheetThatMeasuresCapitals sheet;
+    sheet.Build(u"", faContent);
+    sheet->DataSource(Texts({u" abc ", u"d"}), std::make_shared<TestConnection>());
+    EXPECT_EQ(sheet.WidthOfFirst(), 1710);
 }
 
 } // namespace

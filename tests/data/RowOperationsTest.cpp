@@ -121,6 +121,14 @@ TEST_F(SearchColumn, HeadingAndOtherColumns_AreNotSearched)
     EXPECT_EQ(Sheet->SearchCol(2, u"C2"), 0);
 }
 
+TEST_F(SearchColumn, Case_Counts)
+{
+    SetCell(2, 2, u"ada");
+    SetCell(3, 2, u"Ada");
+    EXPECT_EQ(Sheet->SearchCol(2, u"Ada"), 3);
+    EXPECT_EQ(Sheet->SearchCol(2, u"ADA"), 0);
+}
+
 TEST_F(SearchColumn, NothingFound_ChangesNothing)
 {
     SetCell(2, 2, u"Ada");
@@ -133,10 +141,17 @@ TEST_F(SearchColumn, NothingFound_ChangesNothing)
     EXPECT_EQ(Members.MarkerRow, 1);
 }
 
-TEST_F(SearchColumn, BlankTextOrBadColumn_FindsNothingEvenInBlankCells)
+TEST_F(SearchColumn, BlankText_FindsNothingEvenInBlankCells)
 {
+    SetCell(2, 2, u"   ");
     EXPECT_EQ(Sheet->SearchCol(2, u"   "), 0);
     EXPECT_EQ(Sheet->SearchCol(2, u""), 0);
+    EXPECT_EQ(Sheet.TakeCalls(), Lines());
+    EXPECT_EQ(Sheet.TakeEvents(), Lines());
+}
+
+TEST_F(SearchColumn, ColumnThatIsNone_FindsNothing)
+{
     SetCell(2, 0, u"Ada");
     for (const std::int32_t bad : {-1, 0, 3})
         EXPECT_EQ(Sheet->SearchCol(bad, u"Ada"), 0);

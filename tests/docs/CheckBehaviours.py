@@ -18,7 +18,8 @@ NAMED = re.compile(r"`([\w/]+): (\w+\.\w+)`")
 
 def tests_of(folder):
     """The tests of a folder and those below it, each as Suite.TestName."""
-    return {".".join(test) for file in (ROOT / "tests" / folder).rglob("*.cpp") for test in TEST.findall(file.read_text())}
+    files = (ROOT / "tests" / folder).rglob("*.cpp")
+    return {".".join(test) for file in files for test in TEST.findall(file.read_text())}
 
 
 def rows():

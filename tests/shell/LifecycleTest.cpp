@@ -201,7 +201,8 @@ TEST_F(Lifecycle, Enabled_DisablesTheGridAlone)
     Sheet.Build({fcTextBox}, 1);
     const Lines up = Sheet.EditorsUp();
     ASSERT_EQ(up.size(), 1U);
-    Sheet->Enabled(false);
+    const Lines calls = CallsOf([&] { Sheet->Enabled(false); });
+    EXPECT_EQ(Only(calls, {"MSFlexGrid1.", "Text1."}), Lines{"MSFlexGrid1.Enabled=False"});
     EXPECT_EQ(Sheet.EditorsUp(), up);
     EXPECT_TRUE(Sheet.Platform->TheTextBox()->Enabled());
     EXPECT_FALSE(Sheet->Enabled());
@@ -244,15 +245,32 @@ TEST_F(Lifecycle, Resize_FillsTheComponentWithTheGrid)
     EXPECT_EQ(Sheet.TakeEvents(), Lines{});
 }
 
-TEST_F(Lifecycle, Resize_LeavesEditorAndVisibleRowsAsTheyAre)
+TEST_F(Lifecycle, Resize_LeavesTheEditorWhereItIs)
+{
+    Sheet.Build({fcTextBox}, 3);
+    Sheet.Hand.Click(3, 1);
+    const auto place = [&] {
+        TextBoxControl& editor = *Sheet.Platform->TheTextBox();
+        return std::vector{editor.Left(), editor.Top(), editor.Width(), editor.Height()};
+    };
+    const Lines up = Sheet.EditorsUp();
+    const std::vector<float> before = place();
+    ASSERT_EQ(up.size(), 1U);
+    ASSERT_GT(before[1], 0.0F);
+    const Lines calls = CallsOf([&] { Sheet.Platform->Resize(500, 300); });
+    EXPECT_EQ(Only(calls, {"Text1."}), Lines{});
+    EXPECT_EQ(Sheet.EditorsUp(), up);
+    EXPECT_EQ(place(), before);
+    EXPECT_EQ(Sheet.Focus(), "Text1");
+}
+
+TEST_F(Lifecycle, Resize_DoesNotCountTheVisibleRowsAnew)
 {
     Sheet.Build({fcTextBox}, 3);
     Sheet->RowHeight(300, false, false);
-    Sheet.Hand.Click(1, 1);
-    const Lines up = Sheet.EditorsUp();
     const std::int32_t rows = Sheet.Members().VisibleRows;
+    ASSERT_GT(rows, 0);
     Sheet.Platform->Resize(9000, 900);
-    EXPECT_EQ(Sheet.EditorsUp(), up);
     EXPECT_EQ(Sheet.Members().VisibleRows, rows);
 }
 
@@ -363,12 +381,17 @@ TEST_F(Lifecycle, RequestThatStandsBehindSetAllDisable_BringsTheEditorBackInItsP
 {
     Sheet.Build({fcTextBox}, 1);
     const float left = Sheet.Platform->TheTextBox()->Left();
-    Probe.SetAllDisable();
+    const float top = Sheet.Platform->TheTextBox()->Top();
+    Sheet.Hand.WindowOut(); // No loss of focus comes between.
     Probe.Members().ShowEditorRequest = true;
+    Probe.SetAllDisable();
+    ASSERT_EQ(Sheet.EditorsUp(), Lines{});
     Probe.SetObjVisible(fcTextBox, 0);
     EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
     EXPECT_EQ(Sheet.Platform->TheTextBox()->Left(), left);
+    EXPECT_EQ(Sheet.Platform->TheTextBox()->Top(), top);
     EXPECT_GT(left, 0.0F);
+    EXPECT_GT(top, 0.0F);
 }
 
 TEST_F(Lifecycle, FailureInSetAllDisable_EndsTheWalkAtThatEditor)

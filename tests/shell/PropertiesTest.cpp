@@ -1,40 +1,14 @@
-#include "support/Lines.h"
-#include "support/SheetProbe.h"
-#include "support/SheetUnderTest.h"
-
-#include <gtest/gtest.h>
+#include "shell/PropertiesFixture.h"
+#include "support/SheetThatMeasuresCapitals.h"
 
 #include <functional>
 #include <limits>
 #include <ostream>
+#include <utility>
+#include <vector>
 
 namespace Tessellon {
 namespace {
-
-/// Three text columns and three rows, the first cell entered.
-class Properties : public testing::Test {
-protected:
-    Properties() { Sheet.Build({fcTextBox, fcTextBox, fcTextBox}, 3); }
-
-    template <class Call>
-    Lines CallsOf(const Call& call)
-    {
-        Sheet.Calls->Notes(true);
-        static_cast<void>(Sheet.TakeCalls());
-        call();
-        return Sheet.TakeCalls();
-    }
-    /// The second column again, with a heading and another way of following its text.
-    void Declare(std::u16string_view heading, bool hidden, FieldAutoAdjustType adjust)
-    {
-        Sheet->CreateColumnDataType(2, heading, fcTextBox, u"", hidden, fcLeft, 40, adjust, false);
-    }
-    GridEngine& Grid() { return Sheet.Platform->TheGrid(); }
-
-    SheetUnderTest Sheet;
-    SheetProbe Probe{*Sheet};
-    SheetMembers& Members = Probe.Members();
-};
 
 constexpr std::int32_t longMaximum = std::numeric_limits<std::int32_t>::max();
 
@@ -48,9 +22,25 @@ TEST_F(Properties, RowOutsideTheDataRows_IsIgnored)
         EXPECT_EQ(CallsOf([&] { Sheet->Row(row); }), Lines{}) << row;
         EXPECT_EQ(Sheet->Row(), 1) << row;
     }
+}
+
+TEST_F(Properties, LastRow_IsOneBelowTheNumberOfRows)
+{
     Sheet->Row(Sheet->Rows() - 1);
     EXPECT_EQ(Sheet->Row(), 3);
     EXPECT_EQ(Grid().Row(), 3);
+}
+
+TEST_F(Properties, RowBehindAWrite_IsWhereTheGridsOwnEventFoundTheCursor)
+{
+    int moves = 0;
+    Sheet->RowColChange += [&] {
+        if (++moves == 1)
+            Grid().Row(2);
+    };
+    Sheet->Row(3);
+    EXPECT_EQ(Grid().Row(), 2);
+    EXPECT_EQ(Sheet->Row(), 2);
 }
 
 TEST_F(Properties, RowMovesTheMarkerFromItsRowToTheNewOne)
@@ -159,6 +149,14 @@ TEST_F(Properties, TextOutsideTheDataCells_ReadsEmptyAndIsNotWritten)
     EXPECT_EQ(Sheet.TakeEvents(), Lines{});
 }
 
+TEST_F(Properties, Heading_IsNoTextOfACellButReadByColumnHeader)
+{
+    EXPECT_EQ(Sheet->TextMatrix(0, 1), u"");
+    Sheet->TextMatrix(0, 1, u"other");
+    EXPECT_EQ(Grid().TextMatrix(0, 1), u"C1");
+    EXPECT_EQ(Sheet->ColumnHeader(1), u"C1");
+}
+
 TEST_F(Properties, TextIsWrittenToTheGridAlone)
 {
     const Lines calls = CallsOf([&] { Sheet->TextMatrix(3, 2, u" two "); });
@@ -188,6 +186,20 @@ TEST_F(Properties, TextThatIsTooWide_WidensItsColumnAndTakesTheEditorDown)
     EXPECT_EQ(editor.back(), "Text1.ZOrder(1)");
     EXPECT_EQ(Sheet.EditorsUp(), Lines{});
     EXPECT_NE(Members.ActiveEditor, nullptr);
+}
+
+TEST_F(Properties, TextThatWidensTheCurrentColumn_HidesTheEditorUntilTheNextCellEntry)
+{
+    Declare(u"C2", false, faContent);
+    Sheet.Hand.Click(1, 2);
+    ASSERT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
+    Sheet->TextMatrix(1, 2, u"0123456789");
+    EXPECT_EQ(Sheet.EditorsUp(), Lines{});
+    Sheet->TextMatrix(1, 2, u"x");
+    Sheet->TextMatrix(2, 1, u"0123456789");
+    EXPECT_EQ(Sheet.EditorsUp(), Lines{});
+    Sheet.Hand.Click(2, 2);
+    EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
 }
 
 TEST_F(Properties, TextThatWidensWithoutAnEditorEverLaid_TouchesNone)
@@ -227,172 +239,14 @@ TEST_F(Properties, TextOfAColumnThatDoesNotFollowIt_WidensNothing)
     EXPECT_EQ(Grid().ColWidth(2), 0);
 }
 
-TEST_F(Properties, TextIsMeasuredInCapitals)
+TEST(TextOfACell, IsMeasuredInCapitals)
 {
-    class CapitalToolkit : public HeadlessToolkit {
-    public:
-        float TextWidth(std::u16string_view text, const Font&) override { return text == u"AB" ? 5000.4F : 1; }
-    };
-    const auto platform = std::make_shared<EnginePlatform>(std::make_shared<CapitalToolkit>(), Locale::English());
-    const SheetPointer sheet = TessellonSheet::Create(platform);
-    TestBag bag;
-    sheet->UserControl_ReadProperties(bag);
-    sheet->Cols(2);
-    sheet->CreateColumnDataType(1, u"", fcTextBox, u"", false, fcLeft, 40, faContent, false);
-    sheet->BuildGridColumns();
+    SheetThatMeasuresCapitals sheet;
+    sheet.Build(u"", faContent);
     sheet->AllowAddNew(true);
     sheet->Add(0, 1);
-
     sheet->TextMatrix(1, 1, u" ab ");
-
-    EXPECT_EQ(platform->TheGrid().ColWidth(1), 5210);
-}
-
-// ---- Heights -------------------------------------------------------------------------------------------------------
-
-TEST_F(Properties, RowHeightNotAboveNought_ChangesNothing)
-{
-    Members.VisibleRows = 77;
-    for (const float height : {0.0F, -1.0F, std::numeric_limits<float>::quiet_NaN()})
-        EXPECT_EQ(CallsOf([&] { Sheet->RowHeight(height, true, true); }), Lines{});
-    EXPECT_EQ(Members.DefaultRowHeight, 240.0F);
-    EXPECT_EQ(Members.VisibleRows, 77);
-}
-
-TEST_F(Properties, RowHeight_RaisesTheLeastHeightAndCountsTheRowsInView)
-{
-    const Lines calls = CallsOf([&] { Sheet->RowHeight(300.5F, false, false); });
-    EXPECT_EQ(calls, Lines{"MSFlexGrid1.RowHeightMin=300"});
-    EXPECT_EQ(Members.DefaultRowHeight, 300.5F);
-    EXPECT_EQ(Members.HeaderRowHeight, 240.0F);
-    EXPECT_EQ(Grid().RowHeight(1), 300);
-    // (4800 - 240 - 300) / (2 + 300.5) = 14.08
-    EXPECT_EQ(Members.VisibleRows, 13);
-}
-
-TEST_F(Properties, RowHeightWithTheFont_SizesTheGridsFontThenTheComponents)
-{
-    const Lines calls = CallsOf([&] { Sheet->RowHeight(299.6F, true, false); });
-    // 300 twips are 20 pixels of 15: (20 - 1.3) / 2
-    EXPECT_EQ(calls, (Lines{"MSFlexGrid1.FontSize=9.35", "UserControl.FontSize=9.35", "MSFlexGrid1.Refresh()",
-                            "MSFlexGrid1.RowHeightMin=300"}));
-}
-
-TEST_F(Properties, RowHeightWithTheFont_DividesWholePixels)
-{
-    // 314 twips are 20 whole pixels.
-    const Lines calls = CallsOf([&] { Sheet->RowHeight(314, true, false); });
-    EXPECT_EQ(calls.front(), "MSFlexGrid1.FontSize=9.35");
-}
-
-TEST_F(Properties, RowHeightWithTheHeading_SetsAndKeepsItsHeight)
-{
-    const Lines calls = CallsOf([&] { Sheet->RowHeight(300.5F, false, true); });
-    EXPECT_EQ(calls, (Lines{"MSFlexGrid1.RowHeight(0)=300", "MSFlexGrid1.RowHeightMin=300"}));
-    EXPECT_EQ(Members.HeaderRowHeight, 300.5F);
-}
-
-TEST_F(Properties, RowHeight_WidensTheColumnsThatFollowTheirHeading)
-{
-    Declare(u" 0123456789", false, faHeader);
-    const Lines calls = CallsOf([&] { Sheet->RowHeight(300, false, false); });
-    EXPECT_EQ(calls, (Lines{"MSFlexGrid1.RowHeightMin=300", "MSFlexGrid1.ColWidth(2)=1530", "MSFlexGrid1.Redraw=True",
-                            "MSFlexGrid1.Refresh()"}));
-}
-
-TEST_F(Properties, RowHeight_LeavesHiddenAndOtherColumnsTheirWidth)
-{
-    Declare(u"0123456789", true, faHeader);
-    EXPECT_EQ(CallsOf([&] { Sheet->RowHeight(300, false, false); }).size(), 1U);
-    Declare(u"0123456789", false, faContent);
-    EXPECT_EQ(CallsOf([&] { Sheet->RowHeight(300, false, false); }).size(), 1U);
-    Declare(u"0123456789", false, faHeader);
-    Sheet->ColWidth(2, 0);
-    EXPECT_EQ(CallsOf([&] { Sheet->RowHeight(300, false, false); }).size(), 1U);
-}
-
-TEST_F(Properties, RowHeightThatIsTooLarge_OverflowsBehindTheMember)
-{
-    Sheet->ShowErrMessage(false);
-    Sheet->RowHeight(3e9F, false, false);
-    EXPECT_TRUE(Sheet.TakeEvents().front().starts_with("ErrInfo ErrNum=6 "));
-    EXPECT_EQ(Members.DefaultRowHeight, 3e9F);
-}
-
-TEST_F(Properties, GetRowHeight_TellsWhatDataRowsAreMadeWith)
-{
-    Sheet->RowHeight(300.5F, false, true);
-    EXPECT_EQ(Sheet->GetRowHeight(1), 300.5F);
-    EXPECT_EQ(Sheet->GetRowHeight(3), 300.5F);
-    EXPECT_EQ(Sheet->GetRowHeight(0), 0.0F);
-    EXPECT_EQ(Sheet->GetRowHeight(-1), 0.0F);
-    EXPECT_EQ(Sheet->GetRowHeight(4), 0.0F);
-}
-
-// ---- Widths, dates, flags ------------------------------------------------------------------------------------------
-
-TEST_F(Properties, ColWidth_IsRoundedAndPainted)
-{
-    EXPECT_EQ(CallsOf([&] { Sheet->ColWidth(2, 1500.5F); }),
-              (Lines{"MSFlexGrid1.ColWidth(2)=1500", "MSFlexGrid1.Refresh()"}));
-    EXPECT_EQ(CallsOf([&] { Sheet->ColWidth(0, 301.5F); }),
-              (Lines{"MSFlexGrid1.ColWidth(0)=302", "MSFlexGrid1.Refresh()"}));
-}
-
-TEST_F(Properties, ColWidthOutsideItsRange_IsIgnored)
-{
-    EXPECT_EQ(CallsOf([&] {
-                  Sheet->ColWidth(2, -1);
-                  Sheet->ColWidth(-1, 500);
-                  Sheet->ColWidth(4, 500);
-                  Sheet->ColWidth(2, std::numeric_limits<float>::quiet_NaN());
-              }),
-              Lines{});
-    EXPECT_EQ(Sheet.TakeEvents(), Lines{});
-}
-
-TEST_F(Properties, ColWidthOfAHiddenColumn_IsIgnored)
-{
-    Declare(u"C2", true, faNil);
-    EXPECT_EQ(CallsOf([&] { Sheet->ColWidth(2, 500); }), Lines{});
-}
-
-TEST_F(Properties, DateFormat_IsTrimmedAndGoesToThePicker)
-{
-    EXPECT_EQ(
-        CallsOf([&] { Sheet->DateFormat(u"  yyyy-MM-dd "); }),
-        (Lines{"DTPicker1.Format=3", "DTPicker1.CustomFormat=\"yyyy-MM-dd\"", "DTPicker1.DataFormat=\"yyyy-MM-dd\""}));
-    EXPECT_EQ(Members.DateFormatText, u"yyyy-MM-dd");
-}
-
-TEST_F(Properties, DateFormatOfBlanks_IsIgnored)
-{
-    EXPECT_EQ(CallsOf([&] {
-                  Sheet->DateFormat(u"   ");
-                  Sheet->DateFormat(u"");
-                  Sheet->DateFormat({});
-              }),
-              Lines{});
-    EXPECT_EQ(Members.DateFormatText, u"dd/MM/yyyy");
-}
-
-TEST_F(Properties, DateFormat_LeavesTheCellsAsTheyAre)
-{
-    Sheet->TextMatrix(1, 1, u"15/03/2024");
-    Sheet->DateFormat(u"yyyy-MM-dd");
-    EXPECT_EQ(Sheet->TextMatrix(1, 1), u"15/03/2024");
-}
-
-TEST_F(Properties, FlagsReadAsTheyWereWritten)
-{
-    for (const bool flag : {false, true, false}) {
-        Sheet->AllowAddNew(flag);
-        Sheet->RaiseError(flag);
-        Sheet->ShowErrMessage(!flag);
-        EXPECT_EQ(Sheet->AllowAddNew(), flag);
-        EXPECT_EQ(Sheet->RaiseError(), flag);
-        EXPECT_EQ(Sheet->ShowErrMessage(), !flag);
-    }
+    EXPECT_EQ(sheet.WidthOfFirst(), 1210);
 }
 
 // ---- Labels --------------------------------------------------------------------------------------------------------
