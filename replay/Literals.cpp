@@ -1,6 +1,7 @@
 #include "Literals.h"
 
 #include "ScriptError.h"
+#include "engine/journal/ValueText.h"
 #include "engine/runtime/Calendar.h"
 #include "engine/runtime/NumberText.h"
 
@@ -170,11 +171,12 @@ constexpr std::array keys{
     NamedKey{u"PageUp", 33, u""},  NamedKey{u"PageDown", 34, u""},
 };
 
+constexpr int lastFunctionKey = 16;
+
 /// F1 to F16.
 std::optional<std::int16_t> FunctionKey(std::u16string_view name)
 {
     constexpr int codeBeforeF1 = 111;
-    constexpr int lastKey = 16;
     if (name.size() < 2 || name.size() > 3 || name[0] != u'F' || name[1] == u'0')
         return std::nullopt;
     int number = 0;
@@ -183,7 +185,7 @@ std::optional<std::int16_t> FunctionKey(std::u16string_view name)
             return std::nullopt;
         number = number * 10 + (unit - u'0');
     }
-    return number <= lastKey ? std::optional(static_cast<std::int16_t>(codeBeforeF1 + number)) : std::nullopt;
+    return number <= lastFunctionKey ? std::optional(static_cast<std::int16_t>(codeBeforeF1 + number)) : std::nullopt;
 }
 
 bool IsOneCharacter(std::u16string_view text)
@@ -374,6 +376,16 @@ template <>
 ColorType ReadAs(const Word& word)
 {
     return static_cast<ColorType>(ReadAs<std::int32_t>(word));
+}
+
+std::vector<std::u16string> KeyNames()
+{
+    std::vector<std::u16string> names;
+    for (const NamedKey& key : keys)
+        names.emplace_back(key.Name);
+    for (int number = 1; number <= lastFunctionKey; ++number)
+        names.push_back(u"F" + ValueText(static_cast<std::int32_t>(number)));
+    return names;
 }
 
 std::int16_t KeyCodeOf(char16_t character)

@@ -75,6 +75,8 @@ ManipulateType ReadAs(const Word& word);
 template <>
 ColorType ReadAs(const Word& word);
 
+/// The names of all keys that have one: Enter, F1 and the like.
+std::vector<std::u16string> KeyNames();
 /// The code of the key that types a character; 0 where no key of its own does.
 std::int16_t KeyCodeOf(char16_t character);
 

@@ -1,5 +1,6 @@
 # cmake -DREPLAY=COMMAND -DSCRIPT=FILE.txt -DWORK=FOLDER [-DPLATFORM=NAME] -P Compare.cmake: plays a script and holds
-# what it prints against FILE.out beside it, the same on every platform. What was printed is left in WORK for a look, or to become the new record.
+# what it prints against FILE.out beside it, the same on every platform. The first lines that differ are shown with their
+# number, the record's behind "<". What was printed is left in WORK for a look, or to become the new record.
 cmake_minimum_required(VERSION 3.25)
 
 get_filename_component(name ${SCRIPT} NAME_WE)
@@ -13,7 +14,9 @@ execute_process(COMMAND ${REPLAY} ${SCRIPT} ${platform} OUTPUT_FILE ${printed} R
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "${name}: exit status ${status}")
 endif()
-execute_process(COMMAND diff -u ${folder}/${name}.out ${printed} RESULT_VARIABLE differs)
+execute_process(COMMAND diff ${folder}/${name}.out ${printed} OUTPUT_VARIABLE difference RESULT_VARIABLE differs)
 if(NOT differs EQUAL 0)
+    string(SUBSTRING "${difference}" 0 4000 difference)
+    message("${difference}")
     message(FATAL_ERROR "${name}: ${printed} is not what the record says")
 endif()
