@@ -335,6 +335,19 @@ TEST_F(Columns, DescriptorsToNothing_StayAsTheyAre)
     EXPECT_EQ(Of(2).cdColName, u"B");
 }
 
+TEST_F(Columns, FirstOfTheColumnsThatWereGivenUp_IsTakenUpByOneColumnButNotByMore)
+{
+    Sheet->Cols(4);
+    Declare(1, u"A");
+    Sheet->Cols(1);
+    Sheet->Cols(2);
+    EXPECT_EQ(Sheet->ColumnHeader(1), u"A");
+    Sheet->Cols(1);
+    Sheet->Cols(3);
+    EXPECT_EQ(Sheet->ColumnHeader(1), u"");
+    ExpectBlank(Of(1));
+}
+
 TEST_F(Columns, DescriptorsLeftOver_AreNotTakenUpAgain)
 {
     Sheet->Cols(4);

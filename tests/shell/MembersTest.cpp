@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <thread>
 #include <type_traits>
 
 namespace Tessellon {
@@ -126,6 +127,20 @@ TEST_F(NewSheet, SetsTheFlagsOfAllSheetsOfTheThread)
     EXPECT_TRUE(Sheet->ShowErrMessage());
     second->RaiseError(true);
     EXPECT_TRUE(Sheet->RaiseError());
+}
+
+TEST_F(NewSheet, OnAnotherThread_LeavesTheFlagsOfThisOne)
+{
+    Sheet->RaiseError(true);
+    Sheet->ShowErrMessage(false);
+    std::thread([] {
+        const SheetPointer other = TessellonSheet::Create(
+            std::make_shared<EnginePlatform>(std::make_shared<HeadlessToolkit>(), Locale::English()));
+        EXPECT_FALSE(other->RaiseError());
+        EXPECT_TRUE(other->ShowErrMessage());
+    }).join();
+    EXPECT_TRUE(Sheet->RaiseError());
+    EXPECT_FALSE(Sheet->ShowErrMessage());
 }
 
 // Reports of defects show the members in this order.
