@@ -52,15 +52,24 @@ std::u16string DecimalText(std::int32_t number)
     return {digits.begin(), digits.end()};
 }
 
+/// Whether a failure is to be told to nobody: the sheet was ended inside one of its events, or has told that its stack
+/// is used up. That is told once.
+bool TessellonSheet::IsSilent()
+{
+    if (HasEndedInside() || stack_ == Stack::Told)
+        return true;
+    if (stack_ == Stack::Spent)
+        stack_ = Stack::Told;
+    return false;
+}
+
 /// The handler of the standard frame. The message box comes first, and what it leaves in the record is what the host
 /// gets; the description goes where the host expects the source, and the other way round.
 void TessellonSheet::HandleFailure(const char16_t* procedure)
 {
     TakeCaughtFailure();
     FailureRecord& record = ThreadFailureRecord();
-    // A host that answers each report with a call that fails again would use up what is left of the stack; a sheet
-    // that was ended inside one of its events tells nothing more.
-    if (StackUsed() > stackBudget_ / 6 * 7 || HasEndedInside()) {
+    if (IsSilent()) {
         record.Clear();
         return;
     }
@@ -78,7 +87,7 @@ void TessellonSheet::HandleLoadFailure(Connection* connection)
 {
     TakeCaughtFailure();
     FailureRecord& record = ThreadFailureRecord();
-    if (HasEndedInside()) {
+    if (IsSilent()) {
         record.Clear();
         return;
     }

@@ -87,8 +87,11 @@ std::size_t TessellonSheet::StackUsed() const
 
 void TessellonSheet::CheckStack()
 {
-    if (StackUsed() > stackBudget_)
-        Fail(28);
+    if (stack_ == Stack::Enough && StackUsed() <= stackBudget_)
+        return;
+    if (stack_ == Stack::Enough)
+        stack_ = Stack::Spent;
+    Fail(28);
 }
 
 } // namespace Tessellon

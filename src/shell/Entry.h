@@ -26,7 +26,8 @@ public:
     ~Entry()
     {
         sheet_.inHost_ = calledByHost_;
-        --sheet_.depth_;
+        if (--sheet_.depth_ == 0)
+            sheet_.stack_ = Stack::Enough;
     }
     Entry(const Entry&) = delete;
     Entry& operator=(const Entry&) = delete;

@@ -160,6 +160,7 @@ private:
     void TakeCaughtFailure();
     [[nodiscard]] std::size_t StackUsed() const;
     void CheckStack();
+    bool IsSilent();
     [[noreturn]] void Fail(std::int32_t number);
     [[noreturn]] void Fail(std::int32_t number, std::u16string_view source);
     std::int32_t ToLong(double number); ///< To the nearest, ties to even; past 32 bits: failure 6.
@@ -389,6 +390,10 @@ private:
     int depth_ = 0;
     std::uintptr_t stackTop_ = 0;
     std::size_t stackBudget_ = 0;
+    /// Once handlers that start one another have used it up, every frame fails till the outermost call has returned,
+    /// and one report is made: else each level on the way back would climb up again.
+    enum class Stack : std::uint8_t { Enough, Spent, Told };
+    Stack stack_ = Stack::Enough;
 
     Grid* const MSFlexGrid1;
     const std::shared_ptr<TextBox> Text1;
