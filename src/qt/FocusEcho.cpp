@@ -2,7 +2,6 @@
 
 #include "qt/GridView.h"
 #include "qt/SheetFrame.h"
-#include "qt/TextBoxWidget.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -57,14 +56,14 @@ void FocusEcho::BeforeHiding(QWidget& widget)
 bool FocusEcho::Leave()
 {
     Focus& focus = frame_.Platform()->TheFocus();
-    frame_.TextEditor().CommitComposition();
+    frame_.CommitComposition();
     frame_.Do([&] { focus.LeaveSheet(); });
     return !focus.IsInside();
 }
 
 bool FocusEcho::BeforePress()
 {
-    frame_.TextEditor().CommitComposition();
+    frame_.CommitComposition();
     if (frame_.TheConduct() == Conduct::Desktop)
         frame_.Do([this] { frame_.Platform()->TheFocus().WindowIn(); });
     for (SheetFrame* other : frame_.window()->findChildren<SheetFrame*>()) {

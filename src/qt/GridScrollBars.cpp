@@ -2,7 +2,6 @@
 
 #include "qt/GridView.h"
 #include "qt/SheetFrame.h"
-#include "qt/TextBoxWidget.h"
 
 #include <algorithm>
 #include <utility>
@@ -45,7 +44,7 @@ void GridScrollBars::Scrolled()
         return;
     const int topRow = vertical_->value();
     const int leftCol = horizontal_->value();
-    frame_.TextEditor().CommitComposition();
+    frame_.CommitComposition();
     frame_.Do([&] { frame_.Platform()->TheGrid().ScrollTo(topRow, leftCol); });
 }
 

@@ -3,7 +3,6 @@
 #include "qt/KeyInput.h"
 #include "qt/KeyTranslation.h"
 #include "qt/SheetFrame.h"
-#include "qt/TextBoxWidget.h"
 
 #include <QWheelEvent>
 
@@ -131,7 +130,7 @@ void GridView::TurnWheel(QWheelEvent& event)
     constexpr std::int16_t shiftKey = 1;
     constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
     event.accept();
-    frame_.TextEditor().CommitComposition();
+    frame_.CommitComposition();
     GridEngine& grid = frame_.Platform()->TheGrid();
     turned_ += event.angleDelta().y();
     turnedAcross_ += event.angleDelta().x();

@@ -4,7 +4,6 @@
 #include "qt/FocusEcho.h"
 #include "qt/KeyTranslation.h"
 #include "qt/SheetFrame.h"
-#include "qt/TextBoxWidget.h"
 
 #include <string_view>
 
@@ -51,7 +50,7 @@ void KeyInput::Down(QKeyEvent& event)
 {
     event.accept();
     // The input method has a use for it; without one of its own such a key would end the cell in the middle of a word.
-    if (frame_.TextEditor().IsComposing())
+    if (frame_.IsComposing())
         return;
     const Stroke stroke = StrokeOf(event);
     const std::shared_ptr<EnginePlatform> platform = frame_.Platform();
@@ -107,7 +106,7 @@ bool KeyInput::IsUsed(const Stroke& stroke) const
     if (platform->TheFocus().Holder() == nullptr)
         return false;
     if (platform->FocusedEditor() != nullptr)
-        return frame_.TextEditor().IsComposing() || IsUsedByEditor(stroke);
+        return frame_.IsComposing() || IsUsedByEditor(stroke);
     if (Has(stroke, Modifier::Alt))
         return false;
     if (Has(stroke, Modifier::Ctrl))

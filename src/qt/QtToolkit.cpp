@@ -1,10 +1,10 @@
 #include "qt/QtToolkit.h"
 
 #include "headless/HeadlessToolkit.h"
+#include "qt/EditorWidget.h"
 #include "qt/FocusEcho.h"
 #include "qt/GridView.h"
 #include "qt/SheetFrame.h"
-#include "qt/TextBoxWidget.h"
 #include "qt/Texts.h"
 
 #include <QClipboard>
@@ -106,16 +106,21 @@ void QtToolkit::Changed(ControlCore& control, Aspect aspect)
         frame_->ShowControl(control, aspect);
 }
 
+EditorWidget* QtToolkit::SelfEditing(const ControlCore& control) const
+{
+    return frame_ != nullptr && frame_->TheConduct() == Conduct::Desktop ? frame_->EditorOf(&control) : nullptr;
+}
+
 bool QtToolkit::KeyInWidget(ControlCore& control, std::int16_t keyCode, std::int16_t shift)
 {
-    return frame_ != nullptr && frame_->TheConduct() == Conduct::Desktop && control.Which() == Child::Text1 &&
-           frame_->TextEditor().TakeKey(keyCode, shift);
+    EditorWidget* const editor = SelfEditing(control);
+    return editor != nullptr && editor->TakeKey(keyCode, shift);
 }
 
 bool QtToolkit::CharacterInWidget(ControlCore& control, char16_t character)
 {
-    return frame_ != nullptr && frame_->TheConduct() == Conduct::Desktop && control.Which() == Child::Text1 &&
-           frame_->TextEditor().TakeCharacter(character);
+    EditorWidget* const editor = SelfEditing(control);
+    return editor != nullptr && editor->TakeCharacter(character);
 }
 
 void QtToolkit::FocusMoved()

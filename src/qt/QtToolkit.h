@@ -4,6 +4,7 @@
 
 namespace Tessellon {
 
+class EditorWidget;
 class SheetFrame;
 
 /// What the engines ask of a screen, handed to the widget of the sheet. It outlives that widget where a handler of the
@@ -46,6 +47,9 @@ public:
     void PropertyChanged(std::u16string_view name) override;
 
 private:
+    /// The widget of an editor, where it edits by itself.
+    [[nodiscard]] EditorWidget* SelfEditing(const ControlCore& control) const;
+
     SheetFrame* frame_;
 };
 

@@ -1,11 +1,10 @@
 #include "qt/SheetFrame.h"
 
-#include "qt/CheckBoxWidget.h"
+#include "qt/EditorWidget.h"
 #include "qt/FocusEcho.h"
 #include "qt/GridView.h"
 #include "qt/KeyInput.h"
 #include "qt/QtToolkit.h"
-#include "qt/TextBoxWidget.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -48,8 +47,6 @@ SheetFrame::SheetFrame(Conduct conduct, Locale locale, QWidget* parent)
     , platform_(std::make_shared<EnginePlatform>(toolkit_, std::move(locale)))
     , keys_(std::make_unique<KeyInput>(*this))
     , view_(new GridView(*this))
-    , text_(new TextBoxWidget(*this))
-    , check_(new CheckBoxWidget(*this))
     , bars_(std::make_unique<GridScrollBars>(*this))
     , echo_(std::make_unique<FocusEcho>(*this))
 {
@@ -81,13 +78,33 @@ void SheetFrame::Drop(SheetFrame* frame)
     frame->deleteLater();
 }
 
+QWidget& SheetFrame::EditorParent() const
+{
+    return *view_;
+}
+
+EditorWidget* SheetFrame::EditorOf(const InputControl* control) const
+{
+    const auto found = editors_.find(control);
+    return found == editors_.end() ? nullptr : found->second;
+}
+
 QWidget& SheetFrame::WidgetOf(const InputControl* control) const
 {
-    if (control == platform_->TheTextBox().get())
-        return *text_;
-    if (control == platform_->TheCheckBox().get())
-        return *check_;
-    return *view_;
+    const EditorWidget* const editor = EditorOf(control);
+    return editor != nullptr ? editor->Widget() : *view_;
+}
+
+bool SheetFrame::IsComposing() const
+{
+    const EditorWidget* const editor = EditorOf(platform_->TheFocus().Holder());
+    return editor != nullptr && editor->IsComposing();
+}
+
+void SheetFrame::CommitComposition()
+{
+    if (EditorWidget* const editor = EditorOf(platform_->TheFocus().Holder()))
+        editor->CommitComposition();
 }
 
 QRect SheetFrame::PixelsOf(const ControlCore::Rectangle& place) const
@@ -110,9 +127,8 @@ void SheetFrame::ScreenChanged()
     metrics_->FollowScreen();
     platform_->TheGrid().FontMetricsChanged();
     ResizeSheet();
-    for (ControlCore* control : {static_cast<ControlCore*>(platform_->TheTextBox().get()),
-                                 static_cast<ControlCore*>(platform_->TheCheckBox().get())})
-        ShowControl(*control, Aspect::Place);
+    for (const auto& [control, editor] : editors_)
+        editor->Follow(Aspect::Place);
     view_->update();
 }
 
@@ -143,14 +159,25 @@ void SheetFrame::PaintNow()
     view_->repaint(std::exchange(due_, {}));
 }
 
+/// A widget is made when it is first shown: a sheet may have hundreds of columns, each with an editor of its own.
 void SheetFrame::ShowControl(ControlCore& control, Aspect aspect)
 {
     if (!isWhole_)
         return;
-    if (control.Which() == Child::Text1)
-        text_->Follow(aspect);
-    else if (control.Which() == Child::Check1)
-        check_->Follow(aspect);
+    if (EditorWidget* const editor = EditorOf(&control)) {
+        if (aspect != Aspect::Gone) {
+            editor->Follow(aspect);
+            return;
+        }
+        editors_.erase(&control);
+        editor->Drop();
+    } else if (control.IsVisible() && aspect != Aspect::Gone) {
+        EditorWidget* const made = MakeEditorWidget(*this, control);
+        if (made == nullptr)
+            return;
+        editors_.emplace(&control, made);
+        made->FollowAll();
+    }
 }
 
 // ---- Messages and pointer -------------------------------------------------------------------------------------------
@@ -209,7 +236,7 @@ bool SheetFrame::event(QEvent* event)
     case QEvent::WindowActivate: Do([&] { platform_->TheFocus().WindowIn(); }); break;
     case QEvent::WindowDeactivate:
         if (!isMessageUp_ && QApplication::activePopupWidget() == nullptr) {
-            text_->CommitComposition();
+            CommitComposition();
             Do([&] {
                 // The release goes to the other window; a record's mouse goes on.
                 if (conduct_ == Conduct::Desktop)
@@ -221,8 +248,8 @@ bool SheetFrame::event(QEvent* event)
     case QEvent::ScreenChangeInternal: ScreenChanged(); break;
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
-        text_->Follow(Aspect::Look);
-        check_->Follow(Aspect::Look);
+        for (const auto& [control, editor] : editors_)
+            editor->Follow(Aspect::Look);
         break;
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:

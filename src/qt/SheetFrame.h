@@ -13,15 +13,15 @@
 
 #include <functional>
 #include <memory>
+#include <unordered_map>
 
 namespace Tessellon {
 
-class CheckBoxWidget;
+class EditorWidget;
 class FocusEcho;
 class GridView;
 class KeyInput;
 class QtToolkit;
-class TextBoxWidget;
 
 /// The platform of one sheet as a widget: the grid, its scroll bars, the editors, and what the user does with them. It
 /// is one tab stop. A sheet is made on its Platform(); whoever makes it lets go of it ahead of this widget.
@@ -38,8 +38,7 @@ public:
     [[nodiscard]] Conduct TheConduct() const { return conduct_; }
     [[nodiscard]] const std::shared_ptr<EnginePlatform>& Platform() const { return platform_; }
     [[nodiscard]] GridView& View() const { return *view_; }
-    [[nodiscard]] TextBoxWidget& TextEditor() const { return *text_; }
-    [[nodiscard]] CheckBoxWidget& CheckEditor() const { return *check_; }
+    [[nodiscard]] QWidget& EditorParent() const;
     [[nodiscard]] Metrics& TheMetrics() const { return *metrics_; }
     [[nodiscard]] KeyInput& TheKeyInput() const { return *keys_; }
     [[nodiscard]] FocusEcho& Echo() const { return *echo_; }
@@ -69,6 +68,11 @@ public:
 
     /// The widget that has Qt's focus while `control` has the sheet's.
     [[nodiscard]] QWidget& WidgetOf(const InputControl* control) const;
+    /// The widget that was made for an editor; null if none was. That happens when it is first shown.
+    [[nodiscard]] EditorWidget* EditorOf(const InputControl* control) const;
+    /// The input method of the editor that has the focus holds text that is not committed yet.
+    [[nodiscard]] bool IsComposing() const;
+    void CommitComposition(); ///< The user turns to something else: what he has composed so far is typed.
     /// A rectangle in twips as logical pixels: its edges are rounded, not its sizes.
     [[nodiscard]] QRect PixelsOf(const ControlCore::Rectangle& place) const;
     [[nodiscard]] std::int32_t TwipsOf(int pixels) const;
@@ -112,8 +116,7 @@ private:
     std::shared_ptr<EnginePlatform> platform_;
     std::unique_ptr<KeyInput> keys_;
     GridView* view_ = nullptr;
-    TextBoxWidget* text_ = nullptr;
-    CheckBoxWidget* check_ = nullptr;
+    std::unordered_map<const InputControl*, EditorWidget*> editors_; ///< Of those that were shown.
     std::unique_ptr<GridScrollBars> bars_;
     std::unique_ptr<FocusEcho> echo_;
     int activities_ = 0;

@@ -2,19 +2,12 @@
 
 #include "engine/controls/KeyCodes.h"
 #include "engine/fields/UnitPairs.h"
-#include "qt/Colors.h"
-#include "qt/FocusEcho.h"
-#include "qt/GridView.h"
-#include "qt/KeyInput.h"
 #include "qt/KeyTranslation.h"
-#include "qt/MouseOver.h"
-#include "qt/SheetFrame.h"
 #include "qt/Texts.h"
 
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QInputMethodEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QValidator>
 
@@ -37,7 +30,7 @@ public:
     State validate(QString& text, int& caret) const override
     {
         if (!box_.isFollowing_)
-            Trim(OwnText(box_.Control().State().Text()), text, caret);
+            Trim(OwnText(box_.TheControl().State().Text()), text, caret);
         return Acceptable;
     }
 
@@ -54,7 +47,7 @@ private:
         inserted.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
         for (QChar& unit : inserted)
             unit = IsControlCharacter(unit.unicode()) ? QChar(u' ') : unit;
-        const qsizetype most = box_.Control().State().MaxLength();
+        const qsizetype most = box_.TheControl().State().MaxLength();
         if (most > 0)
             inserted.truncate(std::clamp<qsizetype>(most - (text.size() - units), 0, inserted.size()));
         if (inserted.size() < units && !inserted.isEmpty() && inserted.back().isHighSurrogate())
@@ -68,114 +61,48 @@ private:
     TextBoxWidget& box_;
 };
 
-TextBoxWidget::TextBoxWidget(SheetFrame& frame)
-    : QLineEdit(&frame.View())
-    , frame_(frame)
+TextBoxWidget::TextBoxWidget(SheetFrame& frame, TextBoxControl& control)
+    : EditorOn(frame, control, {QPalette::Base, QPalette::Text})
 {
-    hide();
-    setFocusPolicy(Qt::NoFocus);
     setFrame(false);
     setTextMargins(1, 0, 1, 0);
     setMaxLength(std::numeric_limits<int>::max());
     setValidator(new Limit(*this));
-    setAutoFillBackground(true);
     connect(this, &QLineEdit::textEdited, this, [this] { Report(); });
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { Report(); });
 }
 
-TextBoxControl& TextBoxWidget::Control() const
-{
-    return *frame_.Platform()->TheTextBox();
-}
-
 // ---- What the control shows -----------------------------------------------------------------------------------------
 
-void TextBoxWidget::Follow(Aspect aspect)
-{
-    switch (aspect) {
-    case Aspect::Visible:
-        if (!Control().IsVisible()) {
-            composed_.clear();
-            frame_.Echo().BeforeHiding(*this);
-            hide();
-            break;
-        }
-        setGeometry(frame_.PixelsOf(Control().Place()));
-        ShowText();
-        show();
-        break;
-    case Aspect::Enabled:
-        if (!Control().IsEnabled())
-            frame_.Echo().BeforeHiding(*this);
-        setEnabled(Control().IsEnabled());
-        break;
-    case Aspect::Order:
-        if (Control().IsInFront())
-            raise();
-        break;
-    case Aspect::Place:
-        if (isVisible())
-            setGeometry(frame_.PixelsOf(Control().Place()));
-        break;
-    case Aspect::Look: Look(); break;
-    case Aspect::Content: ShowText(); break;
-    case Aspect::Caret: ShowCaret(); break;
-    case Aspect::Items:
-    case Aspect::Calendar: break;
-    }
-}
-
-void TextBoxWidget::Look()
+void TextBoxWidget::ShowLook()
 {
     constexpr std::int16_t rightAligned = 1;
     constexpr std::int16_t centred = 2;
-    const QFont font = QtFontOf(Control().GetFont());
-    if (this->font() != font)
-        setFont(font);
-    QPalette colors = frame_.palette();
-    const QColor background = ColorFrom(Control().Color(), colors);
-    colors.setColor(QPalette::Base, background);
-    colors.setColor(QPalette::Text, ReadableOn(background, colors.color(QPalette::Text)));
-    if (palette() != colors)
-        setPalette(colors);
-    const std::int16_t alignment = Control().TextAlignment();
+    const std::int16_t alignment = TheControl().TextAlignment();
     setAlignment((alignment == rightAligned ? Qt::AlignRight
                   : alignment == centred    ? Qt::AlignHCenter
                                             : Qt::AlignLeft) |
                  Qt::AlignVCenter);
 }
 
-void TextBoxWidget::ShowText()
+void TextBoxWidget::ShowContent()
 {
     const QScopedValueRollback following(isFollowing_, true);
-    const QString text = OwnText(Control().State().Text());
+    const QString text = OwnText(TheControl().State().Text());
     firstHalf_ = 0;
     if (this->text() != text)
         setText(text);
-    setCursorPosition(Control().State().Caret());
+    setCursorPosition(TheControl().State().Caret());
 }
 
 void TextBoxWidget::ShowCaret()
 {
     const QScopedValueRollback following(isFollowing_, true);
     deselect();
-    setCursorPosition(Control().State().Caret());
-}
-
-void TextBoxWidget::paintEvent(QPaintEvent* event)
-{
-    QLineEdit::paintEvent(event);
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    setCursorPosition(TheControl().State().Caret());
 }
 
 // ---- Keys and characters --------------------------------------------------------------------------------------------
-
-bool TextBoxWidget::event(QEvent* event)
-{
-    return frame_.TheKeyInput().Handle(*event) || QLineEdit::event(event);
-}
 
 /// Enter, Esc and Tab are the sheet's alone; a line edit would tell its own signals of them. A key without a code only
 /// has its character.
@@ -214,12 +141,12 @@ bool TextBoxWidget::TakeCharacter(char16_t character)
 
 void TextBoxWidget::Tell()
 {
-    Control().EditedInWidget(UnitsOf(text()), cursorPosition());
+    TheControl().EditedInWidget(UnitsOf(text()), cursorPosition());
 }
 
 void TextBoxWidget::Report()
 {
-    const TextState& state = Control().State();
+    const TextState& state = TheControl().State();
     if (isFollowing_ || isTaking_ || (cursorPosition() == state.Caret() && UnitsOf(text()) == state.Text()))
         return;
     frame_.Do([this] { Tell(); });
@@ -241,7 +168,7 @@ void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
     emptied.setCommitString({}, event->replacementStart(), event->replacementLength());
     QLineEdit::inputMethodEvent(&emptied);
     TypeAll(committed);
-    if (!composedNext.isEmpty() && Control().HasFocus()) {
+    if (!composedNext.isEmpty() && TheControl().HasFocus()) {
         composed_ = composedNext;
         QInputMethodEvent rest(composedNext, event->attributes());
         QLineEdit::inputMethodEvent(&rest);
@@ -252,7 +179,7 @@ void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
 /// A commit that comes because code has taken the box down finds nobody to type to.
 void TextBoxWidget::TypeAll(const QString& text)
 {
-    if (!Control().HasFocus() || !Control().CanHaveFocus())
+    if (!TheControl().HasFocus() || !TheControl().CanHaveFocus())
         return;
     frame_.Do([&] {
         const std::shared_ptr<EnginePlatform> platform = frame_.Platform();
@@ -275,49 +202,10 @@ void TextBoxWidget::CommitComposition()
 
 // ---- Mouse ----------------------------------------------------------------------------------------------------------
 
-bool TextBoxWidget::Press(const QMouseEvent& event)
+void TextBoxWidget::DoublePressed(QMouseEvent& event)
 {
-    bool isTaken = false;
-    if (frame_.Echo().BeforePress())
-        frame_.Do([&] { isTaken = Control().PressMouse(MouseOver(event, frame_.TheMetrics())); });
-    isPressLost_ = !isTaken;
-    return isTaken;
-}
-
-void TextBoxWidget::mousePressEvent(QMouseEvent* event)
-{
-    if (Press(*event))
-        QLineEdit::mousePressEvent(event);
-}
-
-void TextBoxWidget::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (!Press(*event))
-        return;
-    QLineEdit::mouseDoubleClickEvent(event);
-    frame_.Do([this] { Control().Tell(ChildEvent::DblClick); });
-}
-
-void TextBoxWidget::mouseMoveEvent(QMouseEvent* event)
-{
-    if (event->buttons() != Qt::NoButton && isPressLost_)
-        return;
-    QLineEdit::mouseMoveEvent(event);
-    frame_.Do([&] { Control().MoveMouse(MouseOver(*event, frame_.TheMetrics())); });
-}
-
-void TextBoxWidget::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (std::exchange(isPressLost_, false))
-        return;
-    QLineEdit::mouseReleaseEvent(event);
-    const bool isInside = rect().contains(event->position().toPoint());
-    frame_.Do([&] { Control().ReleaseMouse(MouseOver(*event, frame_.TheMetrics()), isInside); });
-}
-
-void TextBoxWidget::wheelEvent(QWheelEvent* event)
-{
-    frame_.View().TurnWheel(*event);
+    QLineEdit::mouseDoubleClickEvent(&event);
+    frame_.Do([this] { TheControl().Tell(ChildEvent::DblClick); });
 }
 
 } // namespace Tessellon

@@ -32,7 +32,16 @@ protected:
     [[nodiscard]] static SheetFrame& FrameOf(const SheetWidget& sheet) { return *sheet.findChild<SheetFrame*>(); }
     [[nodiscard]] SheetFrame& Frame() const { return FrameOf(*Sheet); }
     [[nodiscard]] GridView& View() const { return Frame().View(); }
-    [[nodiscard]] TextBoxWidget& Box() const { return Frame().TextEditor(); }
+    /// The widget of an editor that was shown.
+    template <class Widget>
+    [[nodiscard]] static Widget& EditorIn(const SheetFrame& frame, const InputControl* control)
+    {
+        return dynamic_cast<Widget&>(frame.WidgetOf(control));
+    }
+    [[nodiscard]] TextBoxWidget& Box() const
+    {
+        return EditorIn<TextBoxWidget>(Frame(), Frame().Platform()->TheTextBox().get());
+    }
     [[nodiscard]] std::u16string_view FocusName() const { return Frame().Platform()->FocusName(); }
     [[nodiscard]] QPoint MiddleOf(GridCell cell) const; ///< In the view.
     void Click(GridCell cell) const;

@@ -139,7 +139,7 @@ TEST_F(Widget, SheetBeforeItsWindowIsShown_HasItsFocusWhenTheWindowComes)
     later.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&later));
     EXPECT_EQ(FrameOf(*sheet).Platform()->FocusName(), u"Text1");
-    EXPECT_EQ(QApplication::focusWidget(), &FrameOf(*sheet).TextEditor());
+    EXPECT_EQ(QApplication::focusWidget(), &FrameOf(*sheet).WidgetOf(FrameOf(*sheet).Platform()->TheTextBox().get()));
 }
 
 } // namespace Tessellon

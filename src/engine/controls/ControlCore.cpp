@@ -165,6 +165,7 @@ void ControlCore::Retire()
     SetVisible(false);
     retired_ = true;
     surroundings_.TheFocus().Forget(*this);
+    Show(Aspect::Gone);
 }
 
 } // namespace Tessellon

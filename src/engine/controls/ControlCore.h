@@ -25,6 +25,7 @@ enum class Aspect : std::uint8_t {
     Caret,
     Items,
     Calendar, ///< The picker's calendar is to open or close.
+    Gone, ///< The control was unloaded, and is not shown again.
 };
 
 /// What a control asks of its surroundings.

@@ -1,0 +1,163 @@
+#include "qt/EditorWidget.h"
+
+#include "qt/Colors.h"
+#include "qt/FocusEcho.h"
+#include "qt/GridView.h"
+#include "qt/KeyInput.h"
+#include "qt/MouseOver.h"
+
+#include <QPainter>
+
+namespace Tessellon {
+
+EditorWidget::EditorWidget(SheetFrame& frame, ControlCore& control, QWidget& widget, Roles roles)
+    : frame_(frame)
+    , control_(control.shared_from_this())
+    , widget_(widget)
+    , roles_(roles)
+{
+    widget_.hide();
+    widget_.setFocusPolicy(Qt::NoFocus);
+    widget_.setAutoFillBackground(true);
+}
+
+bool EditorWidget::TakeKey(std::int16_t /*keyCode*/, std::int16_t /*shift*/)
+{
+    return false;
+}
+
+bool EditorWidget::TakeCharacter(char16_t /*character*/)
+{
+    return false;
+}
+
+// ---- What the control shows -----------------------------------------------------------------------------------------
+
+void EditorWidget::FollowAll()
+{
+    for (const Aspect aspect :
+         {Aspect::Look, Aspect::Items, Aspect::Enabled, Aspect::Visible, Aspect::Order, Aspect::Calendar})
+        Follow(aspect);
+}
+
+void EditorWidget::Follow(Aspect aspect)
+{
+    switch (aspect) {
+    case Aspect::Visible: ShowVisible(); break;
+    case Aspect::Enabled:
+        if (!control_->IsEnabled()) {
+            AboutToGo();
+            frame_.Echo().BeforeHiding(widget_);
+        }
+        widget_.setEnabled(control_->IsEnabled());
+        break;
+    case Aspect::Order:
+        if (control_->IsInFront())
+            widget_.raise();
+        break;
+    case Aspect::Place:
+        if (control_->IsVisible())
+            widget_.setGeometry(frame_.PixelsOf(control_->Place()));
+        break;
+    case Aspect::Look: Look(); break;
+    case Aspect::Content: ShowContent(); break;
+    case Aspect::Caret: ShowCaret(); break;
+    case Aspect::Items: ShowItems(); break;
+    case Aspect::Calendar: ShowCalendar(); break;
+    case Aspect::Gone: break;
+    }
+}
+
+void EditorWidget::ShowVisible()
+{
+    if (!control_->IsVisible()) {
+        held_ = {};
+        AboutToGo();
+        frame_.Echo().BeforeHiding(widget_);
+        widget_.hide();
+        return;
+    }
+    widget_.setGeometry(frame_.PixelsOf(control_->Place()));
+    ShowContent();
+    widget_.show();
+}
+
+void EditorWidget::Drop()
+{
+    held_ = {};
+    AboutToGo();
+    frame_.Echo().BeforeHiding(widget_);
+    widget_.hide();
+    widget_.deleteLater();
+}
+
+void EditorWidget::Look()
+{
+    const QFont font = QtFontOf(control_->GetFont());
+    if (widget_.font() != font)
+        widget_.setFont(font);
+    QPalette colors = frame_.palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        colors.setCurrentColorGroup(group);
+        const QColor background = ColorFrom(control_->Color(), colors);
+        colors.setColor(group, roles_.Background, background);
+        colors.setColor(group, roles_.Text, ReadableOn(background, colors.color(group, roles_.Text)));
+    }
+    colors.setCurrentColorGroup(QPalette::Active);
+    if (widget_.palette() != colors)
+        widget_.setPalette(colors);
+    ShowLook();
+}
+
+void EditorWidget::PaintEdge(QWidget& canvas)
+{
+    QPainter painter(&canvas);
+    painter.setPen(canvas.palette().color(QPalette::Highlight));
+    painter.drawRect(canvas.rect().adjusted(0, 0, -1, -1));
+}
+
+// ---- Keys and mouse -------------------------------------------------------------------------------------------------
+
+bool EditorWidget::HandleKey(QEvent& event)
+{
+    return frame_.TheKeyInput().Handle(event);
+}
+
+void EditorWidget::Press(QMouseEvent& event, bool isSecond)
+{
+    bool isTaken = false;
+    if (frame_.Echo().BeforePress())
+        frame_.Do([&] { isTaken = control_->PressMouse(MouseOver(event, frame_.TheMetrics())); });
+    held_.setFlag(event.button(), isTaken);
+    if (!isTaken)
+        return;
+    if (isSecond)
+        DoublePressed(event);
+    else
+        Pressed(event);
+}
+
+void EditorWidget::Move(QMouseEvent& event)
+{
+    if (event.buttons() != Qt::NoButton && held_ == Qt::NoButton)
+        return;
+    Moved(event);
+    frame_.Do([&] { control_->MoveMouse(MouseOver(event, frame_.TheMetrics())); });
+}
+
+void EditorWidget::Release(QMouseEvent& event)
+{
+    if (!held_.testFlag(event.button()))
+        return;
+    held_.setFlag(event.button(), false);
+    Released(event);
+    const bool isInside = widget_.rect().contains(event.position().toPoint());
+    frame_.Do([&] { control_->ReleaseMouse(MouseOver(event, frame_.TheMetrics()), isInside); });
+}
+
+void EditorWidget::TurnWheel(QWheelEvent& event)
+{
+    frame_.View().TurnWheel(event);
+}
+
+} // namespace Tessellon
