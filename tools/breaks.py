@@ -146,7 +146,7 @@ def rank(seed, item):
 def choose(root, folder, count, seed):
     """All places of the folder, and so many breaks of them, taken file by file in turns of kinds."""
     found = {}
-    for path in sorted((root / "src" / folder).rglob("*")):
+    for path in sorted((root / "src" / folder).rglob("*"), key=lambda path: (path.suffix, path)):
         if path.suffix in (".cpp", ".h"):
             file = str(path.relative_to(root))
             found[file] = list(breaks(root, file))
@@ -154,8 +154,8 @@ def choose(root, folder, count, seed):
     chosen = []
     for file, items in found.items():
         # What every source includes costs a build of nearly everything: such a file gives fewer.
-        weight = 0.25 if file.endswith(".h") else 1
-        wanted = min(len(items), max(2, round(weight * count * len(items) / max(1, places))))
+        least, weight = (1, 0.25) if file.endswith(".h") else (2, 1)
+        wanted = min(len(items), max(least, round(weight * count * len(items) / max(1, places))))
         kinds = collections.defaultdict(list)
         for item in sorted(items, key=lambda item: rank(seed, item)):
             kinds[item.kind].append(item)

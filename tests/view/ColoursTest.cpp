@@ -161,6 +161,15 @@ TEST_F(Colours, BackColor_KeepsViewAndCursorAndLetsTheSelectionGo)
     EXPECT_EQ(Grid().ColSel(), 2);
 }
 
+TEST_F(Colours, ViewThatStoodOnTheFirstRow_IsPutBackThere)
+{
+    Sheet->Add(3, 60);
+    Grid().TopRow(1);
+    Sheet->ErrInfo += [&](auto&&...) { Grid().TopRow(5); };
+    Sheet.Calls->FailAtMember(u"MSFlexGrid1.CellBackColor", 7);
+    EXPECT_EQ(CountOf(CallsOf([&] { Sheet->BackColor(0, Yellow); }), "MSFlexGrid1.TopRow=1"), 1);
+}
+
 TEST_F(Colours, CursorAsTheSheetKnowsIt_IsPutBackToo)
 {
     Sheet->ErrInfo += [&](auto&&...) { Members.CurrentRow = Members.CurrentCol = 2; };
@@ -238,6 +247,8 @@ TEST_F(Colours, GridColorOfNothing_StopsAtOnce)
 
 TEST_F(Colours, RefreshingColors_TellsWhetherMoreWasPaintedThanShows)
 {
+    // An editor that goes down gives the grid the focus, and that clears the flag.
+    Probe.SetAllDisable();
     Members.VisibleRows = 3;
     Probe.RefreshGridColor(1, 1);
     EXPECT_FALSE(Members.RefreshingColors);
@@ -246,12 +257,28 @@ TEST_F(Colours, RefreshingColors_TellsWhetherMoreWasPaintedThanShows)
     EXPECT_TRUE(Members.RefreshingColors);
 }
 
+TEST_F(Colours, RefreshingColors_CountsTheRowsThatAreInViewBehindTheMoveOfTheCursor)
+{
+    Probe.SetAllDisable();
+    Sheet->RowColChange += [&] { Members.VisibleRows = Members.CurrentCol == 2 && Members.CurrentRow == 1 ? 3 : 2; };
+    Probe.RefreshGridColor(1, 2);
+    EXPECT_FALSE(Members.RefreshingColors);
+}
+
 TEST_F(Colours, SectionColor_PaintsOneParityAndLeavesTheCursorThere)
 {
     EXPECT_EQ(CallsOf([&] { Probe.RefreshSectionColor(false); }),
               Joined({Band(1, Color(1)), Band(3, Color(1)), {"MSFlexGrid1.ColSel=1"}}));
     EXPECT_EQ(Grid().Row(), 3);
     EXPECT_EQ(CallsOf([&] { Probe.RefreshSectionColor(true); }), Joined({Band(2, Color(0)), {"MSFlexGrid1.ColSel=1"}}));
+}
+
+TEST(ColoursOfASingleCell, ArePainted)
+{
+    SheetUnderTest sheet;
+    sheet.Build({fcTextBox}, 1);
+    sheet->BackColor(1, Yellow);
+    EXPECT_EQ(sheet.Platform->TheGrid().ColorOf({1, 1}), static_cast<std::int32_t>(Yellow));
 }
 
 TEST_F(Colours, SectionColorOfNothing_StopsAtOnce)

@@ -257,6 +257,16 @@ TEST_F(Geometry, ScrollTests_RefuseRangesThatAreNone)
     EXPECT_EQ(Sheet.TakeEvents(), Lines{});
 }
 
+TEST_F(Geometry, ScrollTests_TakeAGridOfOneCell)
+{
+    Members.ControlHeight = 0;
+    Members.ControlWidth = 0;
+    Members.RowCount = 2;
+    Members.ColCount = 2;
+    EXPECT_TRUE(Probe.IsVerticalScroll(1, 1));
+    EXPECT_TRUE(Probe.IsHorizontalScroll(1, 1));
+}
+
 TEST_F(Geometry, ScrollTests_RefuseAGridOfFixedRowsOrColumnsAlone)
 {
     Members.ControlHeight = 0;

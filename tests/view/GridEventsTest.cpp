@@ -300,7 +300,7 @@ TEST_F(GridEvents, MouseOverTheHeaderBand_TakesTheEditorDownWithoutAButton)
     Sheet.Hand.Hover(1440, 240);
     EXPECT_FALSE(IsUp());
     EXPECT_FALSE(Members.SkipEnterCell);
-    EXPECT_FALSE(Members.ShowEditorRequest);
+    ExpectRequests(false, false); // The editor's loss of the focus has carried the request to hide out.
     EXPECT_FALSE(Members.ScrollRightPending || Members.ScrollDownPending);
     EXPECT_EQ(Sheet.TakeEvents(), Lines{"MouseDown Button=0 Shift=0 x=1440 y=240"});
 }
@@ -377,6 +377,33 @@ TEST_F(GridEvents, Click_MovesTheMarkerFromItsRowToTheCurrentOne)
     EXPECT_EQ(Only(Sheet.TakeCalls(), {"MSFlexGrid1.CellPicture="}), Lines()) << "it is there";
 }
 
+TEST_F(GridEvents, Click_IsNotedBehindTheEntryOfTheCell)
+{
+    Members.GridClicked = Members.GridClickPending = Members.GridRowClickPending = false;
+    bool notedInside = true;
+    Sheet->EnterCell +=
+        [&] { notedInside = Members.GridClicked || Members.GridClickPending || Members.GridRowClickPending; };
+    Tell(ChildEvent::Click);
+    EXPECT_FALSE(notedInside);
+}
+
+TEST_F(GridEvents, ClickOutsideTheData_LeavesTheMarkerWhereItIs)
+{
+    const auto clickAt = [&](std::int32_t row, std::int32_t col, std::int32_t columns) {
+        Members.MarkerRow = 3;
+        Members.CurrentRow = row;
+        Members.CurrentCol = col;
+        Members.ColCount = columns;
+        Forget();
+        Tell(ChildEvent::Click);
+        return Only(Sheet.TakeCalls(), {"MSFlexGrid1.CellPicture="});
+    };
+    EXPECT_EQ(clickAt(0, 1, 3), Lines());
+    EXPECT_EQ(clickAt(1, 0, 3), Lines());
+    EXPECT_EQ(clickAt(1, 1, 1), Lines());
+    EXPECT_EQ(clickAt(1, 1, 3).size(), 3U);
+}
+
 TEST_F(GridEvents, ClickWithoutAMarker_ShowsItWithoutTakingOneAway)
 {
     Members.MarkerRow = -1;
@@ -424,6 +451,17 @@ TEST_F(GridEvents, ChangeOfTheCell_MirrorsItSweepsAndSetsTheRequests)
     EXPECT_FALSE(IsUp()) << "the request of before takes effect";
     ExpectRequests(true, false);
     EXPECT_FALSE(Members.SkipEnterCell);
+}
+
+TEST_F(GridEvents, ChangeWhoseColumnCannotBeRead_HasMirroredTheRow)
+{
+    for (const ChildEvent event : {ChildEvent::RowColChange, ChildEvent::SelChange}) {
+        Members.CurrentRow = Members.CurrentCol = 9;
+        Sheet.Calls->FailAtMember(u"MSFlexGrid1.Col", 7);
+        Tell(event);
+        EXPECT_EQ(Members.CurrentRow, 1);
+        EXPECT_EQ(Members.CurrentCol, 9);
+    }
 }
 
 TEST_F(GridEvents, ChangeToAColumnOutOfSight_AsksToHide)
