@@ -23,10 +23,10 @@ FailureRecord& ThreadFailureRecord()
     return record;
 }
 
-ModuleFlags& ThreadModuleFlags()
+APIGlobal& APIGlobal::OfThread()
 {
-    static thread_local ModuleFlags flags;
-    return flags;
+    static thread_local APIGlobal global;
+    return global;
 }
 
 } // namespace Tessellon

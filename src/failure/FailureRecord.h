@@ -29,13 +29,14 @@ private:
     bool filled_ = false;
 };
 
-/// The flags that all sheets of a thread share. Every new sheet sets them to False and True again.
-struct ModuleFlags {
+/// What all sheets of a thread share. Every new sheet sets the flags to False and True again.
+struct APIGlobal {
     bool RaiseErrorFlag = false;
     bool ShowErrMessageFlag = true;
+
+    static APIGlobal& OfThread();
 };
 
 FailureRecord& ThreadFailureRecord();
-ModuleFlags& ThreadModuleFlags();
 
 } // namespace Tessellon

@@ -73,7 +73,7 @@ void TessellonSheet::HandleFailure(const char16_t* procedure)
         record.Clear();
         return;
     }
-    if (ThreadModuleFlags().ShowErrMessageFlag)
+    if (APIGlobal::OfThread().ShowErrMessageFlag)
         ReportError(record.Number, std::u16string(record.Description), std::u16string(record.Source), procedure,
                     moduleLabel, nullptr);
     const FailureRecord now = record;
@@ -91,7 +91,7 @@ void TessellonSheet::HandleLoadFailure(Connection* connection)
         record.Clear();
         return;
     }
-    if (ThreadModuleFlags().ShowErrMessageFlag)
+    if (APIGlobal::OfThread().ShowErrMessageFlag)
         ReportError(record.Number, std::u16string(record.Description), std::u16string(record.Source), u"DataSource",
                     moduleLabel, connection);
     if (connection == nullptr)
@@ -115,7 +115,7 @@ void TessellonSheet::ReportError(std::int32_t errNumber, const std::u16string& e
 {
     std::u16string message;
     std::vector<ProviderError> errors;
-    const bool raise = ThreadModuleFlags().RaiseErrorFlag;
+    const bool raise = APIGlobal::OfThread().RaiseErrorFlag;
     Ignoring(
         [&] {
             const std::u16string date(RunTime->Format(Value::OfDate(RunTime->Now()), u"Short Date"));

@@ -26,7 +26,7 @@ void TessellonSheet::UserControl_Initialize()
         LastCol = LastRow = -1;
         MaskCellHadText = true;
         FirstEditableCol = FirstVisibleCol = -1;
-        ThreadModuleFlags() = {.RaiseErrorFlag = false, .ShowErrMessageFlag = true};
+        APIGlobal::OfThread() = {.RaiseErrorFlag = false, .ShowErrMessageFlag = true};
 
         InitializeFields();
         InitializeArray();

@@ -167,26 +167,27 @@ bool TessellonSheet::RaiseError()
 {
     return Entry(*this).Run([&] {
         return ArmedResult(u"RaiseErrorProperty", false,
-                           [&](bool& result) { result = ThreadModuleFlags().RaiseErrorFlag; });
+                           [&](bool& result) { result = APIGlobal::OfThread().RaiseErrorFlag; });
     });
 }
 
 void TessellonSheet::RaiseError(bool raise)
 {
-    Entry(*this).Run([&] { Armed(u"RaiseErrorProperty", [&] { ThreadModuleFlags().RaiseErrorFlag = raise; }); });
+    Entry(*this).Run([&] { Armed(u"RaiseErrorProperty", [&] { APIGlobal::OfThread().RaiseErrorFlag = raise; }); });
 }
 
 bool TessellonSheet::ShowErrMessage()
 {
     return Entry(*this).Run([&] {
         return ArmedResult(u"ShowErrMessageProperty", false,
-                           [&](bool& result) { result = ThreadModuleFlags().ShowErrMessageFlag; });
+                           [&](bool& result) { result = APIGlobal::OfThread().ShowErrMessageFlag; });
     });
 }
 
 void TessellonSheet::ShowErrMessage(bool show)
 {
-    Entry(*this).Run([&] { Armed(u"ShowErrMessageProperty", [&] { ThreadModuleFlags().ShowErrMessageFlag = show; }); });
+    Entry(*this).Run(
+        [&] { Armed(u"ShowErrMessageProperty", [&] { APIGlobal::OfThread().ShowErrMessageFlag = show; }); });
 }
 
 } // namespace Tessellon
