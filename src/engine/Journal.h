@@ -20,7 +20,7 @@ namespace Tessellon {
 /// container and the screen, and the moves of a recordset. Reads, the run time and message boxes do not count, but a
 /// read can be named to fail. A failure that is asked for comes once, has the control's name for its source
 /// ("Combo1(2)", of an array "Combo1", "UserControl", "Screen", "Recordset"), and leaves the call undone.
-class Journal final : public Platform {
+class Journal : public Platform {
 public:
     explicit Journal(std::shared_ptr<Platform> under);
 
