@@ -1,6 +1,4 @@
-#include "editors/LeaveBy.h"
-#include "failure/Frames.h"
-#include "shell/RaiseEvent.h"
+#include "editors/KeyHandling.h"
 
 namespace Tessellon {
 
@@ -19,25 +17,19 @@ void TessellonSheet::Check1_Click()
     });
 }
 
-void TessellonSheet::Check1_KeyDown(std::int16_t KeyCode)
+void TessellonSheet::Check1_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift)
 {
-    Armed(u"Check1_KeyDown", [&] {
+    HearKey(fcCheckBox, u"Check1_KeyDown", KeyCode, Shift, [&](KeyAction action) {
         HideEditorRequest = true;
         ShowEditorRequest = false;
-        switch (KeyCode) {
-        case keyEscape:
+        switch (action) {
+        case KeyAction::Nothing: return false;
+        case KeyAction::Restore:
             WriteCurrentCell(Trim(Check1->Tag()));
             StandDown(*Check1);
-            break;
-        case keyEnter:
-            WriteCurrentCell(CheckBoxValue());
-            LeaveBy(*Check1, nextCell);
-            break;
-        case keyLeft: LeaveBy(*Check1, previousCell); break;
-        case keyUp: LeaveBy(*Check1, cellAbove); break;
-        case keyRight: LeaveBy(*Check1, nextCell); break;
-        case keyDown: LeaveBy(*Check1, cellBelow); break;
-        default: break;
+            return true;
+        case KeyAction::WriteNext: WriteCurrentCell(CheckBoxValue()); [[fallthrough]];
+        default: LeaveBy(*Check1, action); return true;
         }
     });
 }
@@ -91,25 +83,26 @@ void TessellonSheet::Combo1_GotFocus()
 }
 
 /// Of left and right every second press leaves the cell: they share one counter, which goes up behind the advance.
-void TessellonSheet::Combo1_KeyDown(std::int16_t Index, std::int16_t KeyCode)
+void TessellonSheet::Combo1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift)
 {
-    Armed(u"Combo1_KeyDown", [&] {
+    HearKey(fcComboBox, u"Combo1_KeyDown", KeyCode, Shift, [&](KeyAction action) {
         ShowEditorRequest = false;
-        const auto box = Combo1->Item(Index);
-        switch (KeyCode) {
-        case keyEscape:
+        switch (action) {
+        case KeyAction::Restore: {
+            const auto box = Combo1->Item(Index);
             WriteCurrentCell(Trim(box->Tag()));
             StandDown(*box);
             HideEditorRequest = true;
-            break;
-        case keyEnter: LeaveBy(*box, nextCell); break;
-        case keyLeft:
-        case keyRight:
+            return true;
+        }
+        case KeyAction::WriteText: WriteCurrentCell(Trim(Combo1->Item(Index)->Text())); return true;
+        case KeyAction::PreviousOn2nd:
+        case KeyAction::NextOn2nd:
             if (ComboPreviousIndex % 2 != 0)
-                LeaveBy(*box, KeyCode == keyLeft ? previousCell : nextCell);
+                LeaveBy(*Combo1->Item(Index), action);
             ++ComboPreviousIndex;
-            break;
-        default: WriteCurrentCell(Trim(box->Text())); break;
+            return true;
+        default: LeaveBy(*Combo1->Item(Index), action); return true;
         }
     });
 }
@@ -148,35 +141,27 @@ void TessellonSheet::List1_Click(std::int16_t Index)
 }
 
 /// An arrow that leaves the cell also moves the list's selection: the click that comes of it must change nothing.
-void TessellonSheet::List1_KeyDown(std::int16_t Index, std::int16_t KeyCode)
+void TessellonSheet::List1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift)
 {
-    Armed(u"List1_KeyDown", [&] {
+    HearKey(fcListBox, u"List1_KeyDown", KeyCode, Shift, [&](KeyAction action) {
         ShowEditorRequest = false;
         ListKeyHandled = false;
-        const auto list = List1->Item(Index);
-        switch (KeyCode) {
-        case keyEscape:
+        switch (action) {
+        case KeyAction::Nothing: return false;
+        case KeyAction::Restore: Restore(*List1->Item(Index)); return true;
+        case KeyAction::WriteChosen:
             if (RowCount > 0)
-                WriteCurrentCell(Trim(list->Tag()));
-            StandDown(*list);
-            HideEditorRequest = true;
-            break;
-        case keyEnter:
+                WriteListSelection(Index);
+            return true;
+        case KeyAction::WriteIfLast:
             if (CurrentCol == ColCount - 1 && CurrentRow == RowCount - 1 && RowCount > 0)
                 WriteListSelection(Index);
-            LeaveBy(*list, nextCell);
-            break;
-        case keyLeft:
-        case keyRight:
-            LeaveBy(*list, KeyCode == keyLeft ? previousCell : nextCell);
+            LeaveBy(*List1->Item(Index), action);
+            return true;
+        default:
+            LeaveBy(*List1->Item(Index), action);
             ListKeyHandled = true;
-            break;
-        case keyUp:
-        case keyDown:
-            if (RowCount > 0)
-                WriteListSelection(Index);
-            break;
-        default: break;
+            return true;
         }
     });
 }

@@ -1,6 +1,4 @@
-#include "editors/LeaveBy.h"
-#include "failure/Frames.h"
-#include "shell/RaiseEvent.h"
+#include "editors/KeyHandling.h"
 
 #include <utility>
 
@@ -30,26 +28,22 @@ void TessellonSheet::Command1_GotFocus()
 }
 
 /// Any key counts as a press of the button for the coming loss of focus.
-void TessellonSheet::Command1_KeyDown(std::int16_t Index, std::int16_t& KeyCode)
+void TessellonSheet::Command1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift)
 {
-    Armed(u"Command1_KeyDown", [&] {
+    HearKey(fcCommandButton, u"Command1_KeyDown", KeyCode, Shift, [&](KeyAction action) {
         CommandActivated = true;
         HideEditorRequest = true;
         ShowEditorRequest = false;
-        switch (KeyCode) {
-        case keyEscape: {
+        switch (action) {
+        case KeyAction::Restore: {
             const auto button = Command1->Item(Index);
             if (RowCount > 0)
                 WriteCurrentCell(Trim(button->Tag()));
             StandDown(*button);
-            break;
+            return true;
         }
-        case keyEnter:
-        case keySpace:
-            Command1_Click(Index);
-            KeyCode = 0;
-            break;
-        default: break;
+        case KeyAction::Click: Command1_Click(Index); return true;
+        default: return false;
         }
     });
 }
@@ -82,7 +76,7 @@ void TessellonSheet::Command1_LostFocus()
                 DecideButtonOnLastRow(bothScroll);
             }
         }
-        SetObjVisible(type, IsArrayControl(CurrentCol) ? CurrentColumn().cdControlIndex : std::int16_t{0});
+        SweepAs(type);
         if (type == fcCommandButton && !CommandActivated && GridClickPending) {
             if (CurrentRow == RowCount - 1 && bothScroll) {
                 MSFlexGrid1_EnterCell();

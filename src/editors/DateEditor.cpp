@@ -1,6 +1,4 @@
-#include "editors/LeaveBy.h"
-#include "failure/Frames.h"
-#include "shell/RaiseEvent.h"
+#include "editors/KeyHandling.h"
 
 namespace Tessellon {
 
@@ -56,24 +54,23 @@ void TessellonSheet::DTPicker1_CallbackKeyDown(std::int16_t KeyCode, std::int16_
 
 void TessellonSheet::DTPicker1_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift)
 {
-    Armed(u"DTPicker1_KeyDown", [&] {
+    HearKey(fcDatePicker, u"DTPicker1_KeyDown", KeyCode, Shift, [&](KeyAction action) {
         ShowEditorRequest = false;
-        switch (KeyCode) {
-        case keyEscape: {
+        switch (action) {
+        case KeyAction::RestoreDate: {
             const std::u16string tag(DTPicker1->Tag());
             WriteDate(Value::OfText(tag));
             StandDown(*DTPicker1);
             HideEditorRequest = true;
-            break;
+            return true;
         }
-        case keyEnter:
+        case KeyAction::WriteNext:
             WriteDate(Value::OfDate(DTPicker1->Value()));
-            LeaveBy(*DTPicker1, nextCell);
-            break;
-        default: break;
+            LeaveBy(*DTPicker1, action);
+            return true;
+        default: return false;
         }
     });
-    RaiseEvent(KeyDown, KeyCode, Shift);
 }
 
 void TessellonSheet::DTPicker1_KeyPress(std::int16_t& KeyAscii)

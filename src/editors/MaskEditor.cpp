@@ -1,5 +1,4 @@
-#include "editors/LeaveBy.h"
-#include "failure/Frames.h"
+#include "editors/KeyHandling.h"
 
 namespace Tessellon {
 
@@ -36,19 +35,16 @@ bool TessellonSheet::IsInstanceOfCurrentColumn(std::int16_t Index, FieldControlT
     return CurrentColumn().cdControlIndex == Index && CurrentColumn().cdControlType == type;
 }
 
-void TessellonSheet::MaskEdBox1_KeyDown(std::int16_t Index, std::int16_t& KeyCode)
+void TessellonSheet::MaskEdBox1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift)
 {
-    Armed(u"MaskEdBox1_KeyDown", [&] {
+    HearKey(fcMaskedEditBox, u"MaskEdBox1_KeyDown", KeyCode, Shift, [&](KeyAction action) {
         ShowEditorRequest = false;
+        if (action == KeyAction::Nothing)
+            return false;
         const auto box = MaskEdBox1->Item(Index);
-        switch (KeyCode) {
-        case keyEscape:
-            if (RowCount > 0)
-                WriteCurrentCell(Trim(box->Tag()));
-            StandDown(*box);
-            HideEditorRequest = true;
-            break;
-        case keyEnter:
+        switch (action) {
+        case KeyAction::Restore: Restore(*box); return true;
+        case KeyAction::WriteIfHad:
             box->Visible(false);
             box->Enabled(false);
             // A cell that was empty on entry has all that was typed by the release of the keys.
@@ -57,19 +53,8 @@ void TessellonSheet::MaskEdBox1_KeyDown(std::int16_t Index, std::int16_t& KeyCod
                 WriteMaskedCell(*box);
             box->ZOrder(1);
             IncrementCell(nextCell.ColStep, nextCell.RowStep);
-            KeyCode = 0;
-            break;
-        case keyLeft:
-            if (box->SelStart() == 0)
-                LeaveBy(*box, previousCell);
-            break;
-        case keyUp: LeaveBy(*box, cellAbove); break;
-        case keyRight:
-            if (IsCaretAtEnd(*box))
-                LeaveBy(*box, nextCell);
-            break;
-        case keyDown: LeaveBy(*box, cellBelow); break;
-        default: break;
+            return true;
+        default: return LeaveAtCaret(action, *box);
         }
     });
 }

@@ -1,6 +1,4 @@
-#include "editors/LeaveBy.h"
-#include "failure/Frames.h"
-#include "shell/RaiseEvent.h"
+#include "editors/KeyHandling.h"
 
 namespace Tessellon {
 
@@ -23,43 +21,20 @@ void TessellonSheet::RichTextBox1_GotFocus()
     });
 }
 
-void TessellonSheet::RichTextBox1_KeyDown(std::int16_t& KeyCode, std::int16_t Shift)
+/// A new line goes to the end of the whole text, wherever the caret stands.
+void TessellonSheet::RichTextBox1_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift)
 {
-    const auto leave = [&](Way way) {
-        LeaveBy(*RichTextBox1, way);
-        KeyCode = 0;
-    };
-    Armed(u"RichTextBox1_KeyDown", [&] {
+    HearKey(fcRichTextBox, u"RichTextBox1_KeyDown", KeyCode, Shift, [&](KeyAction action) {
         ShowEditorRequest = false;
-        switch (KeyCode) {
-        case keyEscape:
-            if (RowCount > 0)
-                WriteCurrentCell(Trim(RichTextBox1->Tag()));
-            StandDown(*RichTextBox1);
-            HideEditorRequest = true;
-            break;
-        case keyEnter:
-            if (Shift != shiftCtrl) {
-                leave(nextCell);
-                break;
-            }
-            // The new line goes to the end of the whole text, wherever the caret stands.
+        if (action == KeyAction::Restore) {
+            Restore(*RichTextBox1);
+        } else if (action == KeyAction::BreakOrNext && Shift == shiftCtrl) {
             RichTextBox1->Text(std::u16string(RichTextBox1->Text()) + u"\r\n");
             RichTextBox1->SelStart(static_cast<std::int32_t>(RichTextBox1->Text().size()));
-            KeyCode = 0;
-            break;
-        case keyLeft:
-            if (RichTextBox1->SelStart() == 0)
-                leave(previousCell);
-            break;
-        case keyUp: leave(cellAbove); break;
-        case keyRight:
-            if (IsCaretAtEnd(*RichTextBox1))
-                leave(nextCell);
-            break;
-        case keyDown: leave(cellBelow); break;
-        default: break;
+        } else {
+            return LeaveAtCaret(action, *RichTextBox1);
         }
+        return true;
     });
 }
 

@@ -72,20 +72,23 @@ void TessellonSheet::SetObjVisible(std::int32_t ControlType, std::int16_t Index)
     });
 }
 
-/// What every loss of focus ends in: the sweep for the column that is current by now.
+/// The sweep for the column that is current by now, as one of the kind.
+void TessellonSheet::SweepAs(std::int32_t ControlType)
+{
+    SetObjVisible(ControlType, IsArrayControl(CurrentCol) ? CurrentColumn().cdControlIndex : std::int16_t{0});
+}
+
+/// What every loss of focus ends in.
 void TessellonSheet::SweepCurrentColumn()
 {
-    const std::int32_t type = CurrentColumn().cdControlType;
-    SetObjVisible(type, IsArrayControl(CurrentCol) ? CurrentColumn().cdControlIndex : std::int16_t{0});
+    SweepAs(CurrentColumn().cdControlType);
 }
 
 /// The same where a failure is passed over: without a column everything is put away.
 void TessellonSheet::SweepIgnoringFailures()
 {
     std::int32_t type = fcNil;
-    Ignoring(
-        [&] { type = CurrentColumn().cdControlType; },
-        [&] { SetObjVisible(type, IsArrayControl(CurrentCol) ? CurrentColumn().cdControlIndex : std::int16_t{0}); });
+    Ignoring([&] { type = CurrentColumn().cdControlType; }, [&] { SweepAs(type); });
 }
 
 void TessellonSheet::SetGridFocus(std::int32_t Row, std::int32_t Col)

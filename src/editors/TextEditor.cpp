@@ -1,6 +1,4 @@
-#include "editors/LeaveBy.h"
-#include "failure/Frames.h"
-#include "shell/RaiseEvent.h"
+#include "editors/KeyHandling.h"
 
 namespace Tessellon {
 
@@ -27,30 +25,13 @@ void TessellonSheet::Text1_GotFocus()
 
 void TessellonSheet::Text1_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift)
 {
-    Armed(u"Text1_KeyDown", [&] {
+    HearKey(fcTextBox, u"Text1_KeyDown", KeyCode, Shift, [&](KeyAction action) {
         ShowEditorRequest = false;
-        switch (KeyCode) {
-        case keyEscape:
-            if (RowCount > 0)
-                WriteCurrentCell(Trim(Text1->Tag()));
-            StandDown(*Text1);
-            HideEditorRequest = true;
-            break;
-        case keyEnter: LeaveBy(*Text1, nextCell); break;
-        case keyLeft:
-            if (Text1->SelStart() == 0)
-                LeaveBy(*Text1, previousCell);
-            break;
-        case keyUp: LeaveBy(*Text1, cellAbove); break;
-        case keyRight:
-            if (IsCaretAtEnd(*Text1))
-                LeaveBy(*Text1, nextCell);
-            break;
-        case keyDown: LeaveBy(*Text1, cellBelow); break;
-        default: break;
-        }
+        if (action != KeyAction::Restore)
+            return LeaveAtCaret(action, *Text1);
+        Restore(*Text1);
+        return true;
     });
-    RaiseEvent(KeyDown, KeyCode, Shift);
 }
 
 void TessellonSheet::Text1_KeyPress(std::int16_t& KeyAscii)

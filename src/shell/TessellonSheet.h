@@ -16,6 +16,7 @@
 namespace Tessellon {
 
 class TessellonSheet;
+enum class KeyAction : std::uint8_t;
 
 /// Ends a sheet; what still runs inside one of its events returns into a state that is still there.
 struct EndSheet {
@@ -231,6 +232,7 @@ private:
     void SweepOne(bool current, Kind& editor);
     template <class Kind>
     void SweepArray(bool isItsKind, ControlArray<Kind>& array, std::int16_t index);
+    void SweepAs(std::int32_t ControlType);
     void SweepCurrentColumn();
     void SweepIgnoringFailures();
     std::shared_ptr<Editor> GetColControl(std::int32_t Col);
@@ -262,19 +264,16 @@ private:
     void MoveCursor(const Advance& advance);
     void ExpectScrolling();
     bool IsFunctionKey(std::int16_t KeyCode);
-    struct Way {
-        std::int16_t ColStep;
-        std::int16_t RowStep;
-    };
-    static constexpr Way nextCell{1, 0};
-    static constexpr Way previousCell{-1, 0};
-    static constexpr Way cellAbove{0, -1};
-    static constexpr Way cellBelow{0, 1};
-    void LeaveBy(Editor& editor, Way way);
-    template <class Box>
-    bool IsCaretAtEnd(Box& box);
 
-    // Handlers of the editors.
+    // Handlers of the editors, and what their keys share.
+    template <class Act>
+    void HearKey(FieldControlType editor, const char16_t* procedure, std::int16_t& KeyCode, std::int16_t& Shift,
+                 const Act& act);
+    void LeaveBy(Editor& editor, KeyAction action);
+    template <class Box>
+    bool LeaveAtCaret(KeyAction action, Box& box);
+    void Restore(Editor& editor);
+
     void Text1_Change();
     void Text1_GotFocus();
     void Text1_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift);
@@ -285,7 +284,7 @@ private:
     void Text1_LostFocus();
 
     void MaskEdBox1_GotFocus(std::int16_t Index);
-    void MaskEdBox1_KeyDown(std::int16_t Index, std::int16_t& KeyCode);
+    void MaskEdBox1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift);
     void MaskEdBox1_KeyPress(std::int16_t& KeyAscii);
     void MaskEdBox1_KeyUp(std::int16_t Index, std::int16_t KeyCode);
     void MaskEdBox1_LostFocus();
@@ -293,7 +292,7 @@ private:
     bool IsInstanceOfCurrentColumn(std::int16_t Index, FieldControlType type);
 
     void Check1_Click();
-    void Check1_KeyDown(std::int16_t KeyCode);
+    void Check1_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift);
     void Check1_LostFocus();
     void Check1_Validate();
     void Check1_MouseDown(std::int16_t& Button, std::int16_t& Shift, float& x, float& y);
@@ -304,11 +303,11 @@ private:
     void Combo1_Change(std::int16_t Index);
     void Combo1_Click(std::int16_t Index);
     void Combo1_GotFocus();
-    void Combo1_KeyDown(std::int16_t Index, std::int16_t KeyCode);
+    void Combo1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift);
     void Combo1_LostFocus();
 
     void List1_Click(std::int16_t Index);
-    void List1_KeyDown(std::int16_t Index, std::int16_t KeyCode);
+    void List1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift);
     void List1_LostFocus();
     void List1_MouseDown(std::int16_t& Button, std::int16_t& Shift, float& x, float& y);
     void List1_MouseMove(std::int16_t& Button, std::int16_t& Shift, float& x, float& y);
@@ -334,14 +333,14 @@ private:
 
     void RichTextBox1_Change();
     void RichTextBox1_GotFocus();
-    void RichTextBox1_KeyDown(std::int16_t& KeyCode, std::int16_t Shift);
+    void RichTextBox1_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift);
     void RichTextBox1_KeyPress(std::int16_t& KeyAscii);
     void RichTextBox1_KeyUp(std::int16_t& KeyCode, std::int16_t& Shift);
     void RichTextBox1_LostFocus();
 
     void Command1_Click(std::int16_t Index);
     void Command1_GotFocus();
-    void Command1_KeyDown(std::int16_t Index, std::int16_t& KeyCode);
+    void Command1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift);
     void Command1_LostFocus();
     void Command1_MouseDown(std::int16_t& Button, std::int16_t& Shift, float& x, float& y);
     void Command1_MouseMove(std::int16_t& Button, std::int16_t& Shift, float& x, float& y);

@@ -195,6 +195,15 @@ TEST_F(ComboEditor, FirstArrow_StaysAndTheSecondLeavesWhicheverTheyAre)
     }
 }
 
+TEST_F(ComboEditor, ArrowThatStays_DoesNotReachForTheBox)
+{
+    Members.ComboPreviousIndex = 0;
+    Sheet.Calls->FailAtMember(u"Combo1.Item", 7);
+    TellKey(Child::Combo1, Key::Right);
+    EXPECT_EQ(LabelsHeard(), Lines());
+    EXPECT_EQ(Members.ComboPreviousIndex, 1);
+}
+
 TEST_F(ComboEditor, LeavingByAnArrow_LeavesTheCountAtOneSoThatTheNextArrowLeavesAtOnce)
 {
     Sheet.Press(Key::Right);

@@ -45,7 +45,7 @@ constexpr KeyMapRow keyMap[] = {
     {"Enter", {"next", "write value, next", "next", "next, writing the selection on the last cell only",
                "write text if it had any, next", "write value, next", "Ctrl: new line; else next", "click"}},
     {"Space", {"typed", "platform toggles", "platform", "platform",
-               "typed", "typed", "typed", "click"}},
+               "typed", "platform", "typed", "click"}},
     {"Left", {"previous if caret at 0", "previous", "previous on every second press", "previous",
               "previous if caret at 0", "nothing", "previous if caret at 0", "nothing"}},
     {"Right", {"next if caret at end", "next", "next on every second press", "next",
