@@ -10,6 +10,9 @@
 namespace Tessellon {
 namespace {
 
+const std::vector<std::string_view> cursorWrites{
+    "MSFlexGrid1.Row=", "MSFlexGrid1.Col=", "MSFlexGrid1.RowSel=", "MSFlexGrid1.ColSel="};
+
 /// Three rows; the cursor is put where a test begins, its editor down as a key handler leaves it.
 class CellAdvance : public testing::Test {
 protected:
@@ -28,6 +31,14 @@ protected:
     }
     std::pair<std::int32_t, std::int32_t> Cursor() { return {Sheet->Row(), Sheet->Col()}; }
     std::ptrdiff_t Heard(const std::string& name) { return CountOf(Sheet.Heard, name); }
+    void ExpectNoMove(std::pair<std::int32_t, std::int32_t> at)
+    {
+        EXPECT_EQ(Cursor(), at);
+        EXPECT_EQ(Sheet.TakeEvents(), (Lines{Asked, "EnterCell"}));
+        EXPECT_EQ(Only(Sheet.TakeCalls(), cursorWrites), Lines());
+        EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
+        EXPECT_FALSE(Members.AdvancePending);
+    }
     void Hide(std::int32_t col)
     {
         Members.ColumnData.at(static_cast<std::size_t>(col - 1)).cdHidden = true;
@@ -40,9 +51,6 @@ protected:
     SheetProbe Probe{*Sheet};
     SheetMembers& Members = Probe.Members();
 };
-
-const std::vector<std::string_view> cursorWrites{
-    "MSFlexGrid1.Row=", "MSFlexGrid1.Col=", "MSFlexGrid1.RowSel=", "MSFlexGrid1.ColSel="};
 
 TEST_F(CellAdvance, ToTheNextCell_AsksMovesWithoutMarkerAndEntersOnceMore)
 {
@@ -113,28 +121,20 @@ TEST_F(CellAdvance, Wrap_SetsTheRowFirstAndTheBackwardOneTheColumn)
               (Lines{"MSFlexGrid1.Col=2", "MSFlexGrid1.Row=1", "MSFlexGrid1.RowSel=1", "MSFlexGrid1.ColSel=2"}));
 }
 
-TEST_F(CellAdvance, AtTheFirstCell_GoesNowhereAndTheSameEditorComesUpAgain)
+TEST_F(CellAdvance, LeftFromTheFirstCell_GoesNowhereAndTheSameEditorComesUpAgain)
 {
     Build({fcTextBox, fcTextBox}, 1, 1);
-    for (const auto& [colStep, rowStep] : {std::pair<std::int16_t, std::int16_t>{-1, 0}, {0, -1}}) {
-        Probe.SetAllDisable();
-        Sheet.Heard.clear();
-        static_cast<void>(Sheet.TakeCalls());
-        Probe.IncrementCell(colStep, rowStep);
-        EXPECT_EQ(Cursor(), Cell(1, 1));
-        EXPECT_EQ(Sheet.TakeEvents(), (Lines{Asked, "EnterCell"}));
-        EXPECT_EQ(Only(Sheet.TakeCalls(), cursorWrites), Lines());
-        EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
-        EXPECT_FALSE(Members.AdvancePending);
-    }
+    Probe.IncrementCell(-1, 0);
+    ExpectNoMove({1, 1});
 }
 
-TEST_F(CellAdvance, UpFromTheFirstRowInAnotherColumn_GoesNowhere)
+TEST_F(CellAdvance, UpFromTheFirstRow_GoesNowhereAndTheSameEditorComesUpAgain)
 {
-    Build({fcTextBox, fcTextBox}, 1, 2);
-    Probe.IncrementCell(0, -1);
-    EXPECT_EQ(Cursor(), Cell(1, 2));
-    EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
+    for (const std::int32_t col : {1, 2}) {
+        Build({fcTextBox, fcTextBox}, 1, col);
+        Probe.IncrementCell(0, -1);
+        ExpectNoMove({1, col});
+    }
 }
 
 TEST_F(CellAdvance, AtTheLastCell_GivesTheFocusToTheGridAndAddsNoRow)

@@ -34,15 +34,23 @@ protected:
 TEST_F(ControlArrays, ColumnOfEachKind_FindsItsEditor)
 {
     Sheet.Build({fcTextBox, fcCheckBox, fcComboBox, fcListBox, fcDatePicker, fcMaskedEditBox, fcRichTextBox,
-                 fcCommandButton, fcNil, fcComboBox, fcListBox, fcMaskedEditBox, fcCommandButton},
+                 fcCommandButton, fcComboBox, fcListBox, fcMaskedEditBox, fcCommandButton},
                 1);
-    const std::vector<std::u16string> names{
-        u"Text1",       u"Check1", u"Combo1(0)", u"List1(0)", u"DTPicker1",     u"MaskEdBox1(0)", u"RichTextBox1",
-        u"Command1(0)", u"",       u"Combo1(1)", u"List1(1)", u"MaskEdBox1(1)", u"Command1(1)"};
+    const std::vector<std::u16string> names{u"Text1",     u"Check1",        u"Combo1(0)",     u"List1(0)",
+                                            u"DTPicker1", u"MaskEdBox1(0)", u"RichTextBox1",  u"Command1(0)",
+                                            u"Combo1(1)", u"List1(1)",      u"MaskEdBox1(1)", u"Command1(1)"};
     for (std::size_t i = 0; i < names.size(); ++i) {
         const auto editor = Probe.GetColControl(static_cast<std::int32_t>(i) + 1);
-        EXPECT_EQ(editor ? std::u16string(editor->Name()) : u"", names[i]);
+        ASSERT_NE(editor, nullptr);
+        EXPECT_EQ(editor->Name(), names[i]);
     }
+}
+
+TEST_F(ControlArrays, ColumnWithoutAnEditor_FindsNoneAndIsNoFailure)
+{
+    Sheet.Build({fcTextBox, fcNil}, 1);
+    EXPECT_EQ(Probe.GetColControl(2), nullptr);
+    EXPECT_EQ(Sheet.TakeEvents(), Lines());
 }
 
 TEST_F(ControlArrays, ColumnOutsideTheTable_IsAFailureAndHasNoEditor)
@@ -107,7 +115,7 @@ TEST_F(ControlArrays, ColumnsWithAnEditorInView_AreEditable)
     EXPECT_FALSE(Probe.IsColEditable(4)) << "no width";
 }
 
-TEST_F(ControlArrays, ColumnThatIsNotThere_CountsAsEditable)
+TEST_F(ControlArrays, ColumnThatIsNotThereOrHasNoRows_CountsAsEditable)
 {
     Sheet.Build({fcNil, fcNil}, 1);
     EXPECT_TRUE(Probe.IsColEditable(0));
@@ -117,6 +125,8 @@ TEST_F(ControlArrays, ColumnThatIsNotThere_CountsAsEditable)
          {&SheetMembers::ColumnBound, &SheetMembers::RowCount, &SheetMembers::ColCount}) {
         const std::int32_t kept = Members.*count;
         Members.*count = count == &SheetMembers::ColumnBound ? 0 : 1;
+        EXPECT_TRUE(Probe.IsColEditable(1));
+        Members.*count = 0;
         EXPECT_TRUE(Probe.IsColEditable(1));
         Members.*count = kept;
     }
@@ -191,8 +201,16 @@ TEST_P(ArrayOfAKind, Reset_DestroysAllButTheFirstFromTheTopAndEmptiesIt)
                                         Instance(0) + GetParam().Emptied}));
     EXPECT_EQ(Counter(), 1);
     EXPECT_EQ(IndexOf(3), 2) << "stale until the next load";
+}
+
+TEST_P(ArrayOfAKind, ResetOfTheOnlyInstance_DestroysNothingAndEmptiesIt)
+{
+    Declare({GetParam().Kind});
+    Load(0, u"a");
+    static_cast<void>(Sheet.TakeCalls());
     Reset();
     EXPECT_EQ(Sheet.TakeCalls(), Lines{Instance(0) + GetParam().Emptied});
+    EXPECT_EQ(Counter(), 1);
 }
 
 TEST_P(ArrayOfAKind, LoadThatFails_StopsThereAndTheNextOneCannotMakeItsInstance)

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <utility>
 
 namespace Tessellon {
 namespace {
@@ -145,8 +146,10 @@ TEST_F(EnteringACell, TopRowToRestore_IsSetAheadOfAllGuardsOnTheLastButOneRowsLa
     Forget();
     Members.GridReady = false;
     Members.PendingTopRow = 5;
-    EXPECT_EQ(Only(CallsOfEntry(), {"MSFlexGrid1.TopRow"}), Lines{"MSFlexGrid1.TopRow=5"});
+    EXPECT_EQ(Only(CallsOfEntry(), {"MSFlexGrid1."}), Lines{"MSFlexGrid1.TopRow=5"});
     EXPECT_EQ(Members.PendingTopRow, 0);
+    EXPECT_EQ(Sheet.TakeEvents(), (Lines{"Scroll", "EnterCell"}));
+    EXPECT_EQ(Sheet.EditorsUp(), Lines());
 }
 
 struct PendingCase {
@@ -172,66 +175,88 @@ TEST_F(EnteringACell, TopRowToRestore_IsKeptInAnyOtherCell)
     }
 }
 
-struct BarredCase {
-    std::string Name;
-    void (*Bar)(SheetUnderTest&, SheetMembers&);
-    bool Refreshes;
-    bool LoadingStays;
+/// The cell of a text box column, another editor laid last, and requests that nothing may touch.
+class EnteringABarredCell : public EnteringACell {
+protected:
+    EnteringABarredCell()
+    {
+        BuildOne(fcTextBox, u"ab");
+        Members.ActiveEditor = Sheet.Calls->Check1();
+        Members.ShowEditorRequest = false;
+        Members.HideEditorRequest = true;
+    }
+    void GoInSilence(std::int32_t row, std::int32_t col)
+    {
+        Sheet.Platform->MSFlexGrid1().Redraw(false);
+        Sheet.Platform->MSFlexGrid1().Row(row);
+        Sheet.Platform->MSFlexGrid1().Col(col);
+    }
+    void ExpectNothingLaid(const Lines& calls)
+    {
+        Forget();
+        EXPECT_EQ(CallsOfEntry(), calls);
+        EXPECT_EQ(Sheet.TakeEvents(), Lines{"EnterCell"});
+        EXPECT_EQ(Members.ActiveEditor, Sheet.Calls->Check1());
+        EXPECT_FALSE(Members.ShowEditorRequest);
+        EXPECT_TRUE(Members.HideEditorRequest);
+    }
+
+    const Lines refreshed{"MSFlexGrid1.Refresh()"};
 };
 
-void PrintTo(const BarredCase& barred, std::ostream* out)
+TEST_F(EnteringABarredCell, InAHiddenColumn_LaysNothingAndKeepsTheEditorLaidLast)
 {
-    *out << barred.Name;
+    Members.ColumnData.at(0).cdHidden = true;
+    ExpectNothingLaid(refreshed);
+    EXPECT_TRUE(Members.EditorLoading);
 }
 
-class EnteringABarredCell : public EnteringACell, public testing::WithParamInterface<BarredCase> {};
-
-TEST_P(EnteringABarredCell, PlacesNothingAndTellsTheHost)
+TEST_F(EnteringABarredCell, InAColumnOfNoWidth_LaysNothingAndKeepsTheEditorLaidLast)
 {
-    BuildOne(fcTextBox, u"ab");
-    Members.ActiveEditor = Sheet.Calls->Check1();
-    Members.ShowEditorRequest = false;
-    Members.HideEditorRequest = true;
-    GetParam().Bar(Sheet, Members);
-    Forget();
-    const Lines refreshed = GetParam().Refreshes ? Lines{"MSFlexGrid1.Refresh()"} : Lines();
-    EXPECT_EQ(CallsOfEntry(), refreshed);
-    EXPECT_EQ(Sheet.TakeEvents(), Lines{"EnterCell"});
-    EXPECT_EQ(Members.ActiveEditor, Sheet.Calls->Check1());
-    EXPECT_FALSE(Members.ShowEditorRequest);
-    EXPECT_TRUE(Members.HideEditorRequest);
-    EXPECT_EQ(Members.EditorLoading, GetParam().LoadingStays);
+    Sheet.Platform->MSFlexGrid1().ColWidth(1, 0);
+    ExpectNothingLaid(refreshed);
+    EXPECT_TRUE(Members.EditorLoading);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    OfEachGuard, EnteringABarredCell,
-    testing::Values(
-        BarredCase{"SkipEnterCell", [](SheetUnderTest&, SheetMembers& m) { m.SkipEnterCell = true; }, false, false},
-        BarredCase{"GridNotReady", [](SheetUnderTest&, SheetMembers& m) { m.GridReady = false; }, false, false},
-        BarredCase{"NoRowCount", [](SheetUnderTest&, SheetMembers& m) { m.RowCount = 0; }, true, false},
-        BarredCase{"NoColCount", [](SheetUnderTest&, SheetMembers& m) { m.ColCount = 0; }, true, false},
-        BarredCase{"NoColumns", [](SheetUnderTest&, SheetMembers& m) { m.ColumnBound = 0; }, true, false},
-        BarredCase{"HeadingRow",
-                   [](SheetUnderTest& s, SheetMembers&) {
-                       Grid& grid = s.Platform->MSFlexGrid1();
-                       grid.Redraw(false);
-                       grid.Row(0);
-                   },
-                   true, false},
-        BarredCase{"MarkerColumn",
-                   [](SheetUnderTest& s, SheetMembers&) {
-                       Grid& grid = s.Platform->MSFlexGrid1();
-                       grid.Redraw(false);
-                       grid.Col(0);
-                   },
-                   true, false},
-        BarredCase{"HiddenColumn", [](SheetUnderTest&, SheetMembers& m) { m.ColumnData.at(0).cdHidden = true; }, true,
-                   true},
-        BarredCase{"WidthOfNothing", [](SheetUnderTest& s, SheetMembers&) { s.Platform->MSFlexGrid1().ColWidth(1, 0); },
-                   true, true},
-        BarredCase{"NoEditor", [](SheetUnderTest&, SheetMembers& m) { m.ColumnData.at(0).cdControlType = fcNil; }, true,
-                   false}),
-    [](const auto& laid) { return laid.param.Name; });
+TEST_F(EnteringABarredCell, InAColumnWithoutAnEditor_LaysNothingAndKeepsTheEditorLaidLast)
+{
+    Members.ColumnData.at(0).cdControlType = fcNil;
+    ExpectNothingLaid(refreshed);
+    EXPECT_FALSE(Members.EditorLoading);
+}
+
+TEST_F(EnteringABarredCell, WithoutRowsOrColumns_RefreshesAndLaysNothing)
+{
+    for (std::int32_t SheetMembers::*count :
+         {&SheetMembers::RowCount, &SheetMembers::ColCount, &SheetMembers::ColumnBound}) {
+        const std::int32_t kept = std::exchange(Members.*count, 0);
+        ExpectNothingLaid(refreshed);
+        EXPECT_FALSE(Members.EditorLoading);
+        Members.*count = kept;
+    }
+}
+
+TEST_F(EnteringABarredCell, InTheHeadingOrTheMarkerColumn_RefreshesAndLaysNothing)
+{
+    GoInSilence(0, 1);
+    ExpectNothingLaid(refreshed);
+    GoInSilence(1, 0);
+    ExpectNothingLaid(refreshed);
+}
+
+TEST_F(EnteringABarredCell, BehindAPressOnTheHeading_LaysNothingWithoutARefresh)
+{
+    Members.SkipEnterCell = true;
+    ExpectNothingLaid(Lines());
+    EXPECT_FALSE(Members.EditorLoading);
+}
+
+TEST_F(EnteringABarredCell, WhileTheGridIsNotReady_LaysNothingWithoutARefresh)
+{
+    Members.GridReady = false;
+    ExpectNothingLaid(Lines());
+    EXPECT_FALSE(Members.EditorLoading);
+}
 
 TEST_F(EnteringACell, HiddenColumnOfNoKind_IsLeftByTheHiddenGuard)
 {

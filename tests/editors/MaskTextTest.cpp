@@ -7,6 +7,14 @@
 namespace Tessellon {
 namespace {
 
+std::u16string Prepared(std::u16string text, std::u16string mask)
+{
+    SheetUnderTest sheet;
+    SheetProbe(*sheet).FormatStr(text, std::move(mask));
+    EXPECT_EQ(sheet.TakeEvents(), Lines());
+    return text;
+}
+
 struct MaskCase {
     const char* Name;
     std::u16string Text;
@@ -18,12 +26,7 @@ class MaskText : public testing::TestWithParam<MaskCase> {};
 
 TEST_P(MaskText, IsPreparedByTheRule)
 {
-    SheetUnderTest sheet;
-    SheetProbe probe(*sheet);
-    std::u16string text = GetParam().Text;
-    probe.FormatStr(text, GetParam().Mask);
-    EXPECT_EQ(text, GetParam().Prepared);
-    EXPECT_EQ(sheet.TakeEvents(), Lines());
+    EXPECT_EQ(Prepared(GetParam().Text, GetParam().Mask), GetParam().Prepared);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -33,15 +36,10 @@ INSTANTIATE_TEST_SUITE_P(
         MaskCase{"ShorterWithLiterals_IsPaddedByWhatItLacksAsItStood", u"1/5/2002", u"##/##/####", u"  152002"},
         MaskCase{"ShorterWithoutLiterals_IsPaddedByWhatItsFormatLacks", u"152002", u"##/##/####", u"  152002"},
         MaskCase{"ShorterWhoseFormatFillsTheMask_IsNotPadded", u"12052002", u"##/##/####", u"12052002"},
-        MaskCase{"Empty_StaysEmpty", u"", u"##/##", u""},
-        MaskCase{"EmptyMask_LeavesTheBlanksToo", u" 1/2 ", u"", u" 1/2 "},
         MaskCase{"MaskOfBlanks_CountsAsEmpty", u" 1/2 ", u"   ", u" 1/2 "},
         MaskCase{"MaskWithoutLiterals_LeavesTheText", u"1/2", u"####", u"1/2"},
-        MaskCase{"AllLiterals_GivesNothing", u"/", u"##/##", u""},
         MaskCase{"LiteralsAndBlanks_KeepsTheBlanks", u"/ /", u"##/##", u" "},
-        MaskCase{"LongerThanTheMask_KeepsItsFrontTwice", u"123/45", u"##/##", u"112345"},
         MaskCase{"LongerByALiteral_KeepsThatInFront", u"/12/34", u"##/##", u"/1234"},
-        MaskCase{"ExactLengthWithoutLiterals_StaysAsItIs", u"12345", u"##/##", u"12345"},
         MaskCase{"MaskWithBlanksAround_IsTrimmed", u"12/34", u"  ##/##  ", u"1234"},
         MaskCase{"TypedCharacterThatIsALiteralToo_GoesToo", u"-1-2-", u"##-##", u"12"},
         MaskCase{"LiteralsWhereverTheyStand_Go", u"1//23", u"##/##", u"123"}),
@@ -49,11 +47,31 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(MaskText, CaseOfLiterals_Counts)
 {
-    SheetUnderTest sheet;
-    SheetProbe probe(*sheet);
-    std::u16string text = u"Xx12";
-    probe.FormatStr(text, u"\\x-##");
-    EXPECT_EQ(text, u" X12");
+    EXPECT_EQ(Prepared(u"Xx12", u"\\x-##"), u" X12");
+}
+
+TEST(MaskText, EmptyTextOrEmptyMask_LeavesTheTextWithItsBlanks)
+{
+    EXPECT_EQ(Prepared(u"", u"##/##"), u"");
+    EXPECT_EQ(Prepared(u" 1/2 ", u""), u" 1/2 ");
+}
+
+TEST(MaskText, NothingButLiterals_GivesTheEmptyText)
+{
+    EXPECT_EQ(Prepared(u"/", u"##/##"), u"");
+    EXPECT_EQ(Prepared(u"-/-", u"#-#/#"), u"");
+}
+
+TEST(MaskText, TextLongerThanTheMask_KeepsItsSurplusInFrontSoThatItStandsTwice)
+{
+    EXPECT_EQ(Prepared(u"123/45", u"##/##"), u"112345");
+    EXPECT_EQ(Prepared(u"1/2/34", u"##/##"), u"11234");
+    EXPECT_EQ(Prepared(u"1/23/45/67", u"##/##"), u"1/23/1234567");
+}
+
+TEST(MaskText, TextOfTheMasksLengthWithoutLiterals_StaysAsItIs)
+{
+    EXPECT_EQ(Prepared(u"12345", u"##/##"), u"12345");
 }
 
 TEST(MaskText, Failure_IsReportedAndLeavesWhatTheTextWasByThen)

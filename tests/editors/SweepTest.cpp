@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <ostream>
 
 namespace Tessellon {
@@ -115,6 +116,24 @@ INSTANTIATE_TEST_SUITE_P(OfEachKind, SweepThatShows,
                                          BringUpCase{fcRichTextBox, first, "RichTextBox1", textual},
                                          BringUpCase{fcCommandButton, second, "Command1(1)", enabledFirst}),
                          [](const auto& up) { return up.param.Name.substr(0, up.param.Name.find('(')); });
+
+TEST_F(Sweep, Button_ComesUpEnabledFirstAndAnyOtherVisibleFirst)
+{
+    for (const FieldControlType kind : {fcTextBox, fcCheckBox, fcComboBox, fcListBox, fcDatePicker, fcMaskedEditBox,
+                                        fcRichTextBox, fcCommandButton}) {
+        Probe.SetAllDisable();
+        Request(true, false);
+        const Lines calls = Swept(kind, first);
+        const auto ends = [](const std::string& end) {
+            return [end](const std::string& line) { return line.ends_with(end); };
+        };
+        const auto visible = std::find_if(calls.begin(), calls.end(), ends(".Visible=True"));
+        const auto enabled = std::find_if(calls.begin(), calls.end(), ends(".Enabled=True"));
+        ASSERT_NE(visible, calls.end());
+        ASSERT_NE(enabled, calls.end());
+        EXPECT_EQ(enabled < visible, kind == fcCommandButton) << kind;
+    }
+}
 
 TEST_F(Sweep, IndexOfASingleKind_IsNotLookedAt)
 {
