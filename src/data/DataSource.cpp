@@ -50,14 +50,20 @@ FieldClass ClassOf(std::int32_t type)
 
 } // namespace
 
-/// The mouse pointer is every window's: it is given back though the sheet be ended inside the load, but not where a
-/// load without a connection fails on the way to its host.
+/// The mouse pointer is every window's: behind a failure it is given back once more, and also though the sheet be ended
+/// inside the load, but not where a load without a connection fails on the way to its host.
 void TessellonSheet::DataSource(std::shared_ptr<Recordset> recordset, std::shared_ptr<Connection> connection)
 {
     Entry(*this).Run([&] {
         ThreadFailureRecord().Clear();
         try {
-            Load(std::move(recordset), connection.get());
+            try {
+                Load(std::move(recordset));
+                Screen->MousePointer(defaultPointer);
+                return;
+            } catch (const std::exception&) {
+                HandleLoadFailure(connection.get());
+            }
         } catch (const SheetEnded&) {
             Screen->MousePointer(defaultPointer);
             throw;
@@ -67,25 +73,21 @@ void TessellonSheet::DataSource(std::shared_ptr<Recordset> recordset, std::share
 }
 
 /// A failure in the load leaves the members as they stand: the next build and the next load set them right.
-void TessellonSheet::Load(std::shared_ptr<Recordset> recordset, Connection* connection)
+void TessellonSheet::Load(std::shared_ptr<Recordset> recordset)
 {
-    try {
-        CheckStack();
-        Screen->MousePointer(hourglass);
-        LoadingRecordset = true;
-        if (recordset && ColumnBound > 0) {
-            BoundRecordset = platform_->Watched(std::move(recordset));
-            ColumnsDeclared = !ColumnsDeclared;
-            if (!BoundRecordset->AtEnd())
-                LoadRecords();
-            ColumnsDeclared = !ColumnsDeclared;
-            if (RefreshPicture(ptArrow, 1))
-                MarkerRow = 1;
-        }
-        LoadingRecordset = false;
-    } catch (const std::exception&) {
-        HandleLoadFailure(connection);
+    CheckStack();
+    Screen->MousePointer(hourglass);
+    LoadingRecordset = true;
+    if (recordset && ColumnBound > 0) {
+        BoundRecordset = platform_->Watched(std::move(recordset));
+        ColumnsDeclared = !ColumnsDeclared;
+        if (!BoundRecordset->AtEnd())
+            LoadRecords();
+        ColumnsDeclared = !ColumnsDeclared;
+        if (RefreshPicture(ptArrow, 1))
+            MarkerRow = 1;
     }
+    LoadingRecordset = false;
 }
 
 void TessellonSheet::LoadRecords()

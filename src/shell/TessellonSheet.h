@@ -192,7 +192,7 @@ private:
 
     // Data.
     void GetRecSize(std::int32_t& FieldCount, std::int32_t& RecordCount);
-    void Load(std::shared_ptr<Recordset> recordset, Connection* connection);
+    void Load(std::shared_ptr<Recordset> recordset);
     void LoadRecords();
     void LoadCell(Recordset& recordset, std::int32_t row, std::int32_t index, std::int32_t fieldCount);
     bool TruthOf(const Value& value);

@@ -69,6 +69,31 @@ TEST_F(LoadThatFails, AtItsFirstStep_TouchesNothing)
     EXPECT_EQ(Members.BoundRecordset, nullptr);
 }
 
+// The frame ends only behind the pointer: what fails there is reported like any other step, and the step comes again.
+TEST_F(LoadThatFails, AtItsLastStep_IsReportedAndThePointerComesBack)
+{
+    Forget();
+    Sheet.Calls->FailAtCall(2, 7);
+    EXPECT_NO_THROW(Sheet->DataSource(nullptr, Link));
+    EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines{"DataSource"});
+    EXPECT_EQ(Sheet.TakeCalls(), (Lines{"Screen.MousePointer=11", "Screen.MousePointer=0", "Screen.MousePointer=0"}));
+    ExpectLeft(false, true, true);
+}
+
+TEST_F(LoadThatFails, BehindItsReport_FailsAtTheHost)
+{
+    Sheet->ErrInfo += [&](auto&&...) { Sheet.Calls->FailAtMember(u"Screen.MousePointer", 1000); };
+    Forget();
+    Sheet.Calls->FailAtMember(u"MSFlexGrid1.RowHeight", 7);
+    try {
+        Sheet->DataSource(Texts({u"a"}), Link);
+        ADD_FAILURE() << "no failure reached the host";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.Number, 1000);
+    }
+    EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines{"DataSource"});
+}
+
 TEST_F(LoadThatFails, AtTheRecordsetsEnd_HasTakenTheRecordset)
 {
     HeardOf(u"Recordset.EOF");
