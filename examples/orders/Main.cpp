@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QSaveFile>
+#include <QScreen>
 
 #include <cstdio>
 #include <cstdlib>
@@ -129,6 +130,8 @@ int Show(const Options& options, char** arguments)
     OrdersWindow window;
     if (options.Log)
         window.Log().WriteInto(*options.Log);
+    constexpr QSize frame(20, 60);
+    window.resize(window.size().boundedTo(window.screen()->availableSize() - frame));
     window.show();
     window.Load(source);
     const int status = QApplication::exec();

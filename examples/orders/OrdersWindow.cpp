@@ -1,14 +1,20 @@
 #include "orders/OrdersWindow.h"
 
+#include "orders/Columns.h"
 #include "orders/EventsPanel.h"
+#include "orders/FindBar.h"
+#include "orders/OneLineLabel.h"
+#include "platform/Failure.h"
 #include "qt/SheetWidget.h"
 #include "recordset/sqlite/SqliteConnection.h"
 #include "recordset/sqlite/SqliteRecordset.h"
 
 #include <QElapsedTimer>
 #include <QEvent>
-#include <QHBoxLayout>
+#include <QMenuBar>
 #include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
 
 namespace Orders {
 
@@ -16,101 +22,126 @@ using namespace Tessellon;
 
 namespace {
 
-constexpr int twipsAPixel = 15;
+ColorType ColorTypeOf(const QColor& color)
+{
+    constexpr int greenShift = 8;
+    constexpr int blueShift = 16;
+    return static_cast<ColorType>(color.red() | color.green() << greenShift | color.blue() << blueShift);
+}
 
-struct Column {
-    const char* Name;
-    FieldControlType Kind;
-    bool IsHidden;
-    FieldControlAlign Alignment;
-    int Length; ///< Of what may be typed; 0 for any.
-    FieldAutoAdjustType Width;
-    int FirstWidth; ///< In pixels at 96 dots an inch; 0 leaves the usual one.
-};
-
-/// In the order of the query's fields. Whoever would write back finds the record by the hidden key.
-constexpr Column columns[] = {
-    {"Number", fcNil, false, fcRight, 0, faHeader, 60},
-    {"Customer", fcTextBox, false, fcLeft, 60, faContent, 0},
-    {"City", fcTextBox, false, fcLeft, 40, faContent, 0},
-    {"Ordered", fcNil, false, fcCenter, 0, faHeader, 92},
-    {"Amount", fcTextBox, false, fcRight, 12, faHeader, 80},
-    {"Currency", fcTextBox, false, fcCenter, 3, faHeader, 40},
-    {"Paid", fcCheckBox, false, fcCenter, 0, faHeader, 48},
-    {"Shipped", fcCheckBox, false, fcCenter, 0, faHeader, 48},
-    {"Phone", fcTextBox, false, fcLeft, 24, faContent, 0},
-    {"Notes", fcTextBox, false, fcLeft, 0, faNil, 420},
-    {"Key", fcNil, true, fcRight, 0, faNil, 0},
-};
+/// A query that gives no record leaves the sheet as it is; a failure is left to the load, which tells it.
+bool IsEmpty(SqliteRecordset& records)
+{
+    try {
+        return records.AtEnd();
+    } catch (const Failure&) {
+        return false;
+    }
+}
 
 } // namespace
 
 OrdersWindow::OrdersWindow()
     : sheet_(new SheetWidget)
     , log_(*sheet_, lines_)
+    , edits_(*sheet_)
+    , summary_(*sheet_)
+    , findBar_(new FindBar)
+    , events_(new EventsPanel(lines_))
+    , told_(new OneLineLabel)
+    , place_(new QLabel)
 {
     setWindowTitle(tr("Orders"));
-    auto* const splitter = new QSplitter(this);
+    auto* const splitter = new QSplitter;
     splitter->addWidget(sheet_);
-    splitter->addWidget(new EventsPanel(lines_));
+    splitter->addWidget(events_);
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
     splitter->setCollapsible(0, false);
     splitter->setSizes({880, 300});
-    auto* const layout = new QHBoxLayout(this);
-    layout->addWidget(splitter);
-    DeclareColumns();
+    constexpr int leastWidth = 400;
+    sheet_->setMinimumWidth(leastWidth);
+    auto* const middle = new QWidget;
+    auto* const column = new QVBoxLayout(middle);
+    column->addWidget(splitter, 1);
+    column->addWidget(findBar_);
+    findBar_->hide();
+    setCentralWidget(middle);
+    BuildMenus();
+    BuildStatusBar();
+    DeclareColumns(*sheet_);
+    sheet_->AllowAddNew(true);
     ColorBands();
     lines_.Clear();
     sheet_->setFocus();
     resize(sizeHint());
 }
 
-void OrdersWindow::DeclareColumns()
+void OrdersWindow::BuildStatusBar()
 {
-    sheet_->DateFormat(QStringLiteral("yyyy-MM-dd"));
-    sheet_->Cols(static_cast<int>(std::size(columns)) + 1);
-    int col = 0;
-    for (const Column& column : columns) {
-        ++col;
-        sheet_->CreateColumnDataType(col, QString::fromLatin1(column.Name), column.Kind, {}, column.IsHidden,
-                                     column.Alignment, column.Length, column.Width, false);
-        if (column.FirstWidth > 0)
-            sheet_->ColWidth(col, static_cast<float>(column.FirstWidth * twipsAPixel));
-    }
-    constexpr int rowPixels = 21;
-    constexpr int markerPixels = 22;
-    sheet_->ColWidth(0, markerPixels * twipsAPixel);
-    sheet_->RowHeight(rowPixels * twipsAPixel, true, true);
-    sheet_->BuildGridColumns();
+    constexpr int leftMargin = 4;
+    told_->setContentsMargins(leftMargin, 0, 0, 0);
+    statusBar()->addWidget(told_, 1);
+    statusBar()->addPermanentWidget(place_);
+    connect(&summary_, &ColumnSummary::Changed, told_, &QLabel::setText);
+    connect(&edits_, &EditWatch::Entered, this, [this] {
+        statusBar()->clearMessage();
+        ShowPlace();
+        summary_.CursorMoved();
+    });
+    connect(&edits_, &EditWatch::Edited, this, [this] {
+        setWindowModified(true);
+        summary_.CellsChanged();
+    });
 }
 
-/// The colours of a list on this desktop, light or dark.
+void OrdersWindow::ShowPlace()
+{
+    const int rows = sheet_->Rows() - 1;
+    place_->setText(rows < 1 ? QString() : tr("Row %L1 of %L2").arg(sheet_->Row()).arg(rows));
+    findBar_->SetColumn(sheet_->ColumnHeader(sheet_->Col()));
+}
+
+/// Unless the user has chosen others, those of a list on this desktop, light or dark.
 void OrdersWindow::ColorBands()
 {
-    const QColor color = palette().color(QPalette::AlternateBase);
-    constexpr int greenShift = 8;
-    constexpr int blueShift = 16;
-    const int bits = color.red() | color.green() << greenShift | color.blue() << blueShift;
+    if (colors_) {
+        sheet_->BackColor(0, ColorTypeOf(colors_->Even));
+        sheet_->BackColor(1, ColorTypeOf(colors_->Odd));
+        return;
+    }
     sheet_->BackColor(0, WindowBackground);
-    sheet_->BackColor(1, static_cast<ColorType>(bits));
+    sheet_->BackColor(1, ColorTypeOf(DesktopColors().Odd));
+}
+
+BandColors OrdersWindow::DesktopColors() const
+{
+    return {palette().color(QPalette::AlternateBase), palette().color(QPalette::Base)};
 }
 
 void OrdersWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange)
         ColorBands();
-    QWidget::changeEvent(event);
+    QMainWindow::changeEvent(event);
 }
 
 double OrdersWindow::Load(const Source& source)
 {
+    // Behind a load that failed, or with none to come in their place, earlier rows would stay.
+    if (sheet_->Rows() > 1 && (!loadFailure_.empty() || IsEmpty(*source.Records))) {
+        sheet_->Clear();
+        DeclareColumns(*sheet_);
+        ColorBands();
+    }
+    path_ = source.Path;
     loadFailure_.clear();
     const auto listening =
         connect(sheet_, &SheetWidget::ErrInfo, this, [this](int /*number*/, const QString& description) {
             if (loadFailure_.empty())
                 loadFailure_ = description.toStdString();
         });
+    edits_.Pause();
     log_.LoadBegins();
     QElapsedTimer timer;
     timer.start();
@@ -119,7 +150,12 @@ double OrdersWindow::Load(const Source& source)
     log_.LoadEnds();
     disconnect(listening);
     const int rows = sheet_->Rows() - 1;
-    setWindowTitle(tr("%L1 orders, %2").arg(rows).arg(QString::fromStdU16String(source.Path.filename().u16string())));
+    if (rows == 0)
+        sheet_->Col(CustomerCol);
+    setWindowTitle(tr("%L1 orders, %2[*]").arg(rows).arg(QString::fromStdU16String(path_.filename().u16string())));
+    setWindowModified(false);
+    edits_.Restart();
+    summary_.CellsChanged();
     log_.Tell(QStringLiteral("loaded"), tr("%L1 rows in %L2 s").arg(rows).arg(seconds, 0, 'f', 3));
     return seconds;
 }

@@ -75,12 +75,11 @@ void CheckFile(const std::filesystem::path& path)
 
 } // namespace
 
-Source OpenSource(const Options& options)
+Source OpenDatabase(const std::filesystem::path& path)
 {
+    CheckFile(path);
     Source source;
-    if (options.Database)
-        CheckFile(*options.Database);
-    source.Path = options.Database ? *options.Database : MadeDatabase(options.Rows.value_or(UsualCount));
+    source.Path = path;
     source.Connection = std::make_shared<Tessellon::SqliteConnection>();
     try {
         source.Connection->Connect(source.Path.u16string());
@@ -95,6 +94,11 @@ Source OpenSource(const Options& options)
                                  Advice(errors.empty() ? 0 : errors.front().NativeError));
     }
     return source;
+}
+
+Source OpenSource(const Options& options)
+{
+    return OpenDatabase(options.Database ? *options.Database : MadeDatabase(options.Rows.value_or(UsualCount)));
 }
 
 } // namespace Orders

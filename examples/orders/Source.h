@@ -19,8 +19,11 @@ struct Source {
     std::shared_ptr<Tessellon::SqliteRecordset> Records;
 };
 
-/// Opens the database that the options name, or makes one in the user's cache folder. What keeps it from being read is
-/// a std::runtime_error of one line that says what to do; a lock of another program is waited for some seconds.
+/// Opens a database of orders. What keeps it from being read is a std::runtime_error of one line that says what to do.
+Source OpenDatabase(const std::filesystem::path& path);
+
+/// Opens the database that the options name, or makes one in the user's cache folder. Failures are as
+/// of OpenDatabase; a lock of another program is waited for some seconds.
 Source OpenSource(const Options& options);
 
 } // namespace Orders

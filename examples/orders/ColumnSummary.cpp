@@ -1,0 +1,162 @@
+#include "orders/ColumnSummary.h"
+
+#include "orders/Columns.h"
+#include "qt/SheetWidget.h"
+
+#include <QElapsedTimer>
+#include <QLocale>
+
+#include <algorithm>
+
+namespace Orders {
+
+using namespace Tessellon;
+
+namespace {
+
+constexpr double shortestPause = 100;
+constexpr double longestPause = 10'000;
+constexpr double pauseToCost = 3;
+
+/// A sum past all numbers is said in the status line; nobody asked for a box.
+class Quiet {
+public:
+    explicit Quiet(SheetWidget& sheet)
+        : sheet_(sheet)
+        , before_(sheet.ShowErrMessage())
+    {
+        sheet_.ShowErrMessage(false);
+    }
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+    ~Quiet() { sheet_.ShowErrMessage(before_); }
+
+private:
+    SheetWidget& sheet_;
+    bool before_;
+};
+
+const Column* ColumnAt(int col)
+{
+    const auto columns = Columns();
+    return col >= 1 && col <= static_cast<int>(columns.size()) ? &columns[static_cast<std::size_t>(col - 1)] : nullptr;
+}
+
+QString NameOf(int col)
+{
+    const Column* const column = ColumnAt(col);
+    return column != nullptr ? QString::fromLatin1(column->Name) : QString();
+}
+
+/// Dates with the year first and the day last stand in the order of their texts, which compare ten times as quickly.
+ManipulateType ComparedAs(const Column& column)
+{
+    return column.Total == Totals::Numbers ? mtNumeric : mtString;
+}
+
+QString Quoted(const QString& text)
+{
+    constexpr qsizetype most = 30;
+    const QString line = text.simplified();
+    return u'“' + (line.size() > most ? line.left(most) + u'…' : line) + u'”';
+}
+
+} // namespace
+
+ColumnSummary::ColumnSummary(SheetWidget& sheet)
+    : sheet_(sheet)
+{
+    timer_.setSingleShot(true);
+    connect(&timer_, &QTimer::timeout, this, &ColumnSummary::Go);
+}
+
+void ColumnSummary::CursorMoved()
+{
+    if (sheet_.Col() == col_)
+        return;
+    CellsChanged();
+    emit Changed(NameOf(col_) + QStringLiteral(": …"));
+}
+
+void ColumnSummary::CellsChanged()
+{
+    col_ = sheet_.Col();
+    due_.clear();
+    found_.clear();
+    cost_ = 0;
+    timer_.start(static_cast<int>(std::clamp(lastCost_ * pauseToCost, shortestPause, longestPause)));
+}
+
+void ColumnSummary::Go()
+{
+    const Column* const column = ColumnAt(col_);
+    if (sheet_.Rows() < 2 || column == nullptr)
+        return Finish(tr("No orders. Ctrl+N makes one."));
+    if (column->Total == Totals::None)
+        return Finish(tr("%1: nothing to add up").arg(NameOf(col_)));
+    if (due_.empty()) {
+        due_ = {Step::Blank, Step::Least, Step::Most};
+        if (column->Total == Totals::Numbers)
+            due_.insert(due_.begin() + 1, Step::Sum);
+        else
+            found_ += column->Total == Totals::Dates ? tr("dates") : tr("text");
+    }
+    const Step step = due_.front();
+    due_.erase(due_.begin());
+    QElapsedTimer clock;
+    clock.start();
+    {
+        const Quiet quiet(sheet_);
+        Take(step, *column);
+    }
+    cost_ += static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    if (!due_.empty()) {
+        timer_.start(0);
+        return;
+    }
+    lastCost_ = cost_;
+    emit Changed(NameOf(col_) + QStringLiteral(": ") + found_.join(QStringLiteral(", ")));
+}
+
+void ColumnSummary::Finish(const QString& text)
+{
+    due_.clear();
+    emit Changed(text);
+}
+
+void ColumnSummary::Take(Step step, const Column& column)
+{
+    bool success = false;
+    switch (step) {
+    case Step::Blank:
+        // Nothing has a sum and a minimum too, as the sheet sees it.
+        if (sheet_.Maximum(col_, mtString, success).isEmpty()) {
+            due_.clear();
+            found_ = {tr("empty")};
+        }
+        break;
+    case Step::Sum: {
+        const double sum = sheet_.Summation(col_, success);
+        found_ += success ? tr("sum %1").arg(sheet_.locale().toString(sum, 'f', column.Decimals))
+                          : tr("sum past all numbers");
+        break;
+    }
+    case Step::Least:
+        found_ += tr("minimum %1").arg(Worded(sheet_.Minimum(col_, ComparedAs(column), success), column));
+        break;
+    case Step::Most:
+        found_ += tr("maximum %1").arg(Worded(sheet_.Maximum(col_, ComparedAs(column), success), column));
+        break;
+    }
+}
+
+QString ColumnSummary::Worded(const QString& value, const Column& column) const
+{
+    if (column.Total == Totals::Texts)
+        return Quoted(value);
+    bool isNumber = false;
+    const double number = sheet_.locale().toDouble(value, &isNumber);
+    return column.Decimals > 0 && isNumber ? sheet_.locale().toString(number, 'f', column.Decimals) : value;
+}
+
+} // namespace Orders

@@ -1,0 +1,239 @@
+#include "examples/window/Clerk.h"
+
+#include <QAction>
+#include <QMenuBar>
+#include <QSet>
+
+#include <fstream>
+
+namespace Orders {
+
+namespace {
+
+constexpr int customer = 2;
+constexpr int city = 3;
+constexpr Qt::KeyboardModifiers ctrlShift = Qt::ControlModifier | Qt::ShiftModifier;
+
+std::string Edit(int row, int col, const QString& text)
+{
+    return QStringLiteral("%1, %2: %3").arg(row).arg(col).arg(text).toStdString();
+}
+
+TEST_F(Clerk, NewRow_StandsBehindTheCurrentOne_WithItsEditorUp)
+{
+    Open();
+    GoTo(5, city);
+    const QString next = Sheet().TextMatrix(6, customer);
+    Press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Orders(), 41);
+    EXPECT_EQ(Edited(), Edit(6, customer, {}));
+    EXPECT_EQ(Sheet().TextMatrix(7, customer), next);
+    Type(QStringLiteral("Ada"));
+    EXPECT_EQ(Sheet().TextMatrix(6, customer), QStringLiteral("Ada"));
+    EXPECT_TRUE(Window().isWindowModified());
+}
+
+TEST_F(Clerk, NewRowAtTheEnd_IsTheLast)
+{
+    Open();
+    GoTo(5, city);
+    Press(Qt::Key_N, ctrlShift);
+    EXPECT_EQ(Edited(), Edit(41, customer, {}));
+    EXPECT_EQ(Message(), "Row 41 is new. It is kept in this window only.");
+}
+
+TEST_F(Clerk, NewRow_InASheetWithoutAny_IsTheFirst)
+{
+    Open(0);
+    EXPECT_EQ(Summary(), "No orders. Ctrl+N makes one.");
+    Press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Edited(), Edit(1, customer, {}));
+    Press(Qt::Key_N, ctrlShift);
+    EXPECT_EQ(Edited(), Edit(2, customer, {}));
+}
+
+TEST_F(Clerk, RefusedValidation_KeepsTheUserInTheCell)
+{
+    Open();
+    QObject::connect(&Sheet(), &Tessellon::SheetWidget::EditorValidate, &Window(), [](bool& cancel) { cancel = true; });
+    GoTo(5, city);
+    Type(QStringLiteral("X"));
+    const std::string before = Edited();
+    Press(Qt::Key_N, Qt::ControlModifier);
+    Press(Qt::Key_Minus, Qt::ControlModifier);
+    Press(Qt::Key_F5);
+    Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(Edited(), before);
+    EXPECT_EQ(Orders(), 40);
+}
+
+TEST_F(Clerk, Delete_AsksAndIsCancelledByEscAndByEnter)
+{
+    Open();
+    GoTo(5, city);
+    const QString text = Sheet().TextMatrix(5, city);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+        AnswerNextBox(key);
+        Press(Qt::Key_Minus, Qt::ControlModifier);
+        EXPECT_EQ(Orders(), 40);
+        EXPECT_EQ(Edited(), Edit(5, city, text));
+    }
+    EXPECT_EQ(Boxes, 2);
+    EXPECT_FALSE(Window().isWindowModified());
+}
+
+TEST_F(Clerk, Delete_EntersTheRowThatTakesThePlace)
+{
+    Open();
+    GoTo(5, city);
+    const QString next = Sheet().TextMatrix(6, city);
+    AnswerNextBox(Qt::Key_D, Qt::AltModifier);
+    Press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Orders(), 39);
+    EXPECT_EQ(Edited(), Edit(5, city, next));
+    EXPECT_TRUE(Message().starts_with("Row 5 is deleted: 10005"));
+}
+
+TEST_F(Clerk, DeleteOfTheLastRow_EntersTheOneAbove)
+{
+    Open();
+    GoTo(40, city);
+    const QString above = Sheet().TextMatrix(39, city);
+    AnswerNextBox(Qt::Key_D, Qt::AltModifier);
+    Press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Edited(), Edit(39, city, above));
+}
+
+TEST_F(Clerk, DeleteOfTheOnlyRow_LeavesNone_AndAnotherDeleteSaysSo)
+{
+    Open(1);
+    GoTo(1, city);
+    AnswerNextBox(Qt::Key_D, Qt::AltModifier);
+    Press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Orders(), 0);
+    EXPECT_EQ(Summary(), "No orders. Ctrl+N makes one.");
+    Press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Message(), "There is no row to delete.");
+    EXPECT_EQ(Boxes, 1);
+    Press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Edited(), Edit(1, customer, {}));
+}
+
+TEST_F(Clerk, Reload_WithoutEdits_AsksNothingAndKeepsThePlace)
+{
+    Open();
+    GoTo(7, city);
+    InDatabase("DELETE FROM orders WHERE id < 10004; UPDATE orders SET city = 'Bergen' WHERE id = 10007");
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Orders(), 37);
+    EXPECT_EQ(Edited(), Edit(4, city, QStringLiteral("Bergen")));
+    EXPECT_EQ(Boxes, 0);
+}
+
+TEST_F(Clerk, Reload_WithEdits_AsksFirst)
+{
+    Open();
+    GoTo(7, city);
+    const QString stored = Sheet().TextMatrix(7, city);
+    Type(QStringLiteral("X"));
+    AnswerNextBox(Qt::Key_Escape);
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Edited(), Edit(7, city, u'X' + stored));
+    AnswerNextBox(Qt::Key_R, Qt::AltModifier);
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Edited(), Edit(7, city, stored));
+    EXPECT_FALSE(Window().isWindowModified());
+    EXPECT_EQ(Boxes, 2);
+}
+
+TEST_F(Clerk, Reload_AsksAlsoBehindACheckBox)
+{
+    constexpr int paid = 7;
+    Open();
+    GoTo(7, paid);
+    Press(Qt::Key_Space);
+    AnswerNextBox(Qt::Key_Escape);
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Boxes, 1);
+}
+
+TEST_F(Clerk, ReloadOfATableThatIsEmptyNow_EmptiesTheSheet)
+{
+    Open();
+    GoTo(7, city);
+    InDatabase("DELETE FROM orders");
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Orders(), 0);
+    InDatabase("INSERT INTO orders SELECT 1, 'Ada', 'Bergen', '2024-01-01', 5, 'NOK', NULL, 1, 0, NULL");
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Orders(), 1);
+    GoTo(1, city);
+    EXPECT_EQ(Edited(), Edit(1, city, QStringLiteral("Bergen")));
+}
+
+TEST_F(Clerk, ReloadOfADatabaseThatIsGone_SaysSoAndKeepsTheRows)
+{
+    Open();
+    GoTo(7, city);
+    const QString text = Sheet().TextMatrix(7, city);
+    std::filesystem::remove(Database());
+    AnswerNextBox(Qt::Key_Return);
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Boxes, 1);
+    EXPECT_EQ(Orders(), 40);
+    EXPECT_EQ(Edited(), Edit(7, city, text));
+}
+
+TEST_F(Clerk, Database_IsNeverWritten)
+{
+    const auto bytes = [this] {
+        std::ifstream file(Database(), std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    Open();
+    std::filesystem::permissions(Database(), std::filesystem::perms::owner_read);
+    const std::string before = bytes();
+    GoTo(5, city);
+    Type(QStringLiteral("X"));
+    Press(Qt::Key_N, Qt::ControlModifier);
+    Type(QStringLiteral("Ada"));
+    AnswerNextBox(Qt::Key_D, Qt::AltModifier);
+    Press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Orders(), 40);
+    EXPECT_EQ(bytes(), before);
+    AnswerNextBox(Qt::Key_R, Qt::AltModifier);
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Boxes, 2);
+    EXPECT_FALSE(Window().isWindowModified());
+}
+
+TEST_F(Clerk, EachCommand_HasAKeyOfItsOwn_WhichTheMenusAndTheHelpShow)
+{
+    Open();
+    QSet<QString> keys;
+    for (const QAction* const menu : Window().menuBar()->actions()) {
+        for (const QAction* const command : menu->menu()->actions()) {
+            if (command->isSeparator())
+                continue;
+            const QString shortcut = command->shortcut().toString();
+            EXPECT_FALSE(shortcut.isEmpty() || keys.contains(shortcut)) << command->text().toStdString();
+            keys.insert(shortcut);
+        }
+    }
+    EXPECT_EQ(keys.size(), 10);
+    GoTo(5, city);
+    const std::string before = Edited();
+    QString help;
+    InNextBox([&](QWidget& box) {
+        help = box.property("text").toString();
+        QMetaObject::invokeMethod(&box, "reject");
+    });
+    Press(Qt::Key_F1);
+    for (const QString& key : keys)
+        EXPECT_TRUE(help.contains(key)) << key.toStdString();
+    EXPECT_EQ(Edited(), before);
+}
+
+} // namespace
+
+} // namespace Orders
