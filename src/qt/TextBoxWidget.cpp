@@ -70,6 +70,7 @@ TextBoxWidget::TextBoxWidget(SheetFrame& frame, TextBoxControl& control)
     setValidator(new Limit(*this));
     connect(this, &QLineEdit::textEdited, this, [this] { Report(); });
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { Report(); });
+    connect(this, &QLineEdit::selectionChanged, this, [this] { Report(); });
 }
 
 // ---- What the control shows -----------------------------------------------------------------------------------------
@@ -139,15 +140,21 @@ bool TextBoxWidget::TakeCharacter(char16_t character)
     return true;
 }
 
+/// With a selection the caret of the control is where that begins, at whichever end the widget has its own.
+int TextBoxWidget::SelStart() const
+{
+    return hasSelectedText() ? selectionStart() : cursorPosition();
+}
+
 void TextBoxWidget::Tell()
 {
-    TheControl().EditedInWidget(UnitsOf(text()), cursorPosition());
+    TheControl().EditedInWidget(UnitsOf(text()), SelStart());
 }
 
 void TextBoxWidget::Report()
 {
     const TextState& state = TheControl().State();
-    if (isFollowing_ || isTaking_ || (cursorPosition() == state.Caret() && UnitsOf(text()) == state.Text()))
+    if (isFollowing_ || isTaking_ || (SelStart() == state.Caret() && UnitsOf(text()) == state.Text()))
         return;
     frame_.Do([this] { Tell(); });
 }

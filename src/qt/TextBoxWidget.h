@@ -32,6 +32,7 @@ protected:
 private:
     class Limit;
 
+    [[nodiscard]] int SelStart() const;
     void Report(); ///< The widget was edited by itself.
     void Tell();
     void TypeAll(const QString& text);

@@ -157,6 +157,32 @@ TEST_F(Typing, LeftAtTheStart_LeavesTheCell_AndInTheMiddleItDoesNot)
     EXPECT_EQ(Sheet->Col(), 1);
 }
 
+TEST_F(Typing, RightWithASelectionFromTheFront_GoesToItsEndAndOnlyThenLeavesTheCell)
+{
+    Key(Qt::Key_Return);
+    Type(QStringLiteral("abc"));
+    Key(Qt::Key_A, Qt::ControlModifier);
+    Key(Qt::Key_Right);
+    EXPECT_EQ(Sheet->Col(), 2);
+    EXPECT_FALSE(Box().hasSelectedText());
+    EXPECT_EQ(Box().cursorPosition(), 3);
+    Key(Qt::Key_Right);
+    EXPECT_EQ(Sheet->Col(), 3);
+}
+
+TEST_F(Typing, LeftWithASelectionFromTheFront_LeavesTheCell)
+{
+    Key(Qt::Key_Return);
+    Type(QStringLiteral("abc"));
+    Key(Qt::Key_Home);
+    Key(Qt::Key_Right, Qt::ShiftModifier);
+    Key(Qt::Key_Right, Qt::ShiftModifier);
+    ASSERT_EQ(Box().selectedText(), QStringLiteral("ab"));
+    Key(Qt::Key_Left);
+    EXPECT_EQ(Sheet->Col(), 1);
+    EXPECT_EQ(Sheet->TextMatrix(1, 2), QStringLiteral("abc"));
+}
+
 TEST_F(Typing, Escape_PutsTheOldTextBack_AndLeavesTheGrid)
 {
     Type(QStringLiteral("ab"));
