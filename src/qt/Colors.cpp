@@ -77,4 +77,12 @@ QColor ReadableOn(const QColor& background, const QColor& wanted)
     return Contrast(background, black) >= Contrast(background, white) ? black : white;
 }
 
+QColor Faded(const QColor& text, const QColor& background)
+{
+    constexpr float left = 0.55F;
+    const auto mixed = [](float one, float other) { return one * left + other * (1 - left); };
+    return QColor::fromRgbF(mixed(text.redF(), background.redF()), mixed(text.greenF(), background.greenF()),
+                            mixed(text.blueF(), background.blueF()));
+}
+
 } // namespace Tessellon

@@ -14,4 +14,7 @@ namespace Tessellon {
 /// `wanted`, if it can be read on `background`; else black or white, whichever can be read better.
 [[nodiscard]] QColor ReadableOn(const QColor& background, const QColor& wanted);
 
+/// A text colour on `background` as it looks where nothing can be done: between the two, and still to be read.
+[[nodiscard]] QColor Faded(const QColor& text, const QColor& background);
+
 } // namespace Tessellon

@@ -1,7 +1,10 @@
 #include "engine/controls/ChoiceControls.h"
 #include "engine/controls/TextControls.h"
+#include "qt/ButtonWidget.h"
 #include "qt/CheckBoxWidget.h"
+#include "qt/ComboBoxWidget.h"
 #include "qt/EditorWidget.h"
+#include "qt/ListBoxWidget.h"
 #include "qt/TextBoxWidget.h"
 
 namespace Tessellon {
@@ -11,6 +14,9 @@ EditorWidget* MakeEditorWidget(SheetFrame& frame, ControlCore& control)
     switch (control.Which()) {
     case Child::Text1: return new TextBoxWidget(frame, static_cast<TextBoxControl&>(control));
     case Child::Check1: return new CheckBoxWidget(frame, static_cast<CheckBoxControl&>(control));
+    case Child::Combo1: return new ComboBoxWidget(frame, static_cast<ComboBoxControl&>(control));
+    case Child::List1: return new ListBoxWidget(frame, static_cast<ListBoxControl&>(control));
+    case Child::Command1: return new ButtonWidget(frame, static_cast<CommandButtonControl&>(control));
     default: return nullptr;
     }
 }

@@ -1,12 +1,16 @@
 #include "qt/EditorWidget.h"
 
 #include "qt/Colors.h"
+#include "qt/DevicePixels.h"
 #include "qt/FocusEcho.h"
 #include "qt/GridView.h"
 #include "qt/KeyInput.h"
 #include "qt/MouseOver.h"
 
 #include <QPainter>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Tessellon {
 
@@ -97,23 +101,34 @@ void EditorWidget::Look()
     if (widget_.font() != font)
         widget_.setFont(font);
     QPalette colors = frame_.palette();
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        colors.setCurrentColorGroup(group);
-        const QColor background = ColorFrom(control_->Color(), colors);
-        colors.setColor(group, roles_.Background, background);
-        colors.setColor(group, roles_.Text, ReadableOn(background, colors.color(group, roles_.Text)));
-    }
-    colors.setCurrentColorGroup(QPalette::Active);
+    Dress(colors);
     if (widget_.palette() != colors)
         widget_.setPalette(colors);
     ShowLook();
 }
 
+void EditorWidget::Dress(QPalette& colors) const
+{
+    const QColor background = ColorFrom(control_->Color(), colors);
+    const QColor text = ReadableOn(background, colors.color(QPalette::Active, roles_.Text));
+    colors.setColor(roles_.Background, background);
+    colors.setColor(roles_.Text, text);
+    colors.setColor(QPalette::Disabled, roles_.Text, Faded(text, background));
+}
+
+/// On whole pixels of the device, so that the line is equally strong on all sides.
 void EditorWidget::PaintEdge(QWidget& canvas)
 {
     QPainter painter(&canvas);
-    painter.setPen(canvas.palette().color(QPalette::Highlight));
-    painter.drawRect(canvas.rect().adjusted(0, 0, -1, -1));
+    const DevicePixels pixels = DevicePixels::Of(painter.deviceTransform());
+    const qreal line = std::max(1.0, std::floor(pixels.Scale())) / pixels.Scale();
+    const QColor color = canvas.palette().color(QPalette::Highlight);
+    const QRectF edge(QPointF(pixels.Left(), pixels.Top()),
+                      QPointF(pixels.Across(canvas.width()), pixels.Down(canvas.height())));
+    painter.fillRect(QRectF(edge.left(), edge.top(), edge.width(), line), color);
+    painter.fillRect(QRectF(edge.left(), edge.bottom() - line, edge.width(), line), color);
+    painter.fillRect(QRectF(edge.left(), edge.top(), line, edge.height()), color);
+    painter.fillRect(QRectF(edge.right() - line, edge.top(), line, edge.height()), color);
 }
 
 // ---- Keys and mouse -------------------------------------------------------------------------------------------------
@@ -123,11 +138,16 @@ bool EditorWidget::HandleKey(QEvent& event)
     return frame_.TheKeyInput().Handle(event);
 }
 
+EventArguments EditorWidget::MouseOf(const QMouseEvent& event) const
+{
+    return MouseOver(event, Corner(), frame_.TheMetrics());
+}
+
 void EditorWidget::Press(QMouseEvent& event, bool isSecond)
 {
     bool isTaken = false;
     if (frame_.Echo().BeforePress())
-        frame_.Do([&] { isTaken = control_->PressMouse(MouseOver(event, frame_.TheMetrics())); });
+        frame_.Do([&] { isTaken = control_->PressMouse(MouseOf(event)); });
     held_.setFlag(event.button(), isTaken);
     if (!isTaken)
         return;
@@ -142,7 +162,7 @@ void EditorWidget::Move(QMouseEvent& event)
     if (event.buttons() != Qt::NoButton && held_ == Qt::NoButton)
         return;
     Moved(event);
-    frame_.Do([&] { control_->MoveMouse(MouseOver(event, frame_.TheMetrics())); });
+    frame_.Do([&] { control_->MoveMouse(MouseOf(event)); });
 }
 
 void EditorWidget::Release(QMouseEvent& event)
@@ -151,8 +171,10 @@ void EditorWidget::Release(QMouseEvent& event)
         return;
     held_.setFlag(event.button(), false);
     Released(event);
-    const bool isInside = widget_.rect().contains(event.position().toPoint());
-    frame_.Do([&] { control_->ReleaseMouse(MouseOver(event, frame_.TheMetrics()), isInside); });
+    const bool isInside = widget_.rect().contains(event.position().toPoint() + Corner());
+    frame_.Do([&] { control_->ReleaseMouse(MouseOf(event), isInside); });
+    if (isInside && event.button() == Qt::LeftButton && control_->CanHaveFocus())
+        ReleasedInside(event);
 }
 
 void EditorWidget::TurnWheel(QWheelEvent& event)

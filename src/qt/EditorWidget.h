@@ -3,10 +3,12 @@
 #include "engine/controls/ControlCore.h"
 #include "qt/SheetFrame.h"
 
+#include <QAbstractScrollArea>
 #include <QMouseEvent>
 #include <QPalette>
 #include <QWidget>
 
+#include <concepts>
 #include <cstdint>
 #include <memory>
 
@@ -33,6 +35,9 @@ public:
     /// The input method holds text that is not committed yet.
     [[nodiscard]] virtual bool IsComposing() const { return false; }
     virtual void CommitComposition() {} ///< The user turns to something else: what he has composed so far is typed.
+    /// The control was hidden or disabled, and the widget is about to be, or it goes with all the sheet: what hangs on
+    /// it closes first.
+    virtual void AboutToGo() {}
 
 protected:
     /// The roles of a palette in which the kind paints its background and its text.
@@ -48,14 +53,17 @@ protected:
     virtual void ShowCaret() {}
     virtual void ShowItems() {}
     virtual void ShowCalendar() {}
-    /// The control was hidden or disabled, and the widget is about to be: what hangs on it closes first.
-    virtual void AboutToGo() {}
+    virtual void Dress(QPalette& colors) const; ///< In what differs from the palette around it.
+    /// Where the mouse events of Qt's widget count from.
+    [[nodiscard]] virtual QPoint Corner() const { return {}; }
 
     // What Qt's own widget does with the mouse. A press that was lost, with all that follows it, never comes here.
     virtual void Pressed(QMouseEvent& event) { static_cast<void>(event); }
     virtual void DoublePressed(QMouseEvent& event) { Pressed(event); }
     virtual void Moved(QMouseEvent& event) { static_cast<void>(event); }
     virtual void Released(QMouseEvent& event) { static_cast<void>(event); }
+    /// The left button was let go in here, behind MouseUp: what a press means that the control cannot know.
+    virtual void ReleasedInside(QMouseEvent& event) { static_cast<void>(event); }
 
     // The mouse over the widget, in this order: the control is told of a press before the widget acts on it, of the
     // rest behind.
@@ -73,6 +81,7 @@ protected:
 private:
     void Look();
     void ShowVisible();
+    [[nodiscard]] EventArguments MouseOf(const QMouseEvent& event) const;
 
     std::shared_ptr<ControlCore> control_;
     QWidget& widget_;
@@ -89,6 +98,8 @@ protected:
         , EditorWidget(frame, control, *this, roles)
         , control_(control)
     {
+        if constexpr (scrolls)
+            this->setFrameStyle(QFrame::Box | QFrame::Plain);
     }
 
     [[nodiscard]] Control& TheControl() const { return control_; } ///< The widget keeps it in being.
@@ -97,7 +108,22 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         Base::paintEvent(event);
-        PaintEdge(*this);
+        if constexpr (!scrolls)
+            PaintEdge(*this);
+    }
+    /// What scrolls has its edge as its frame, and paints only what lies inside.
+    void Dress(QPalette& colors) const override
+    {
+        EditorWidget::Dress(colors);
+        if constexpr (scrolls)
+            colors.setColor(QPalette::WindowText, colors.color(QPalette::Highlight));
+    }
+    [[nodiscard]] QPoint Corner() const override
+    {
+        if constexpr (scrolls)
+            return this->viewport()->pos();
+        else
+            return {};
     }
     void mousePressEvent(QMouseEvent* event) override { Press(*event, false); }
     void mouseDoubleClickEvent(QMouseEvent* event) override { Press(*event, true); }
@@ -106,6 +132,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override { TurnWheel(*event); }
 
 private:
+    static constexpr bool scrolls = std::derived_from<Base, QAbstractScrollArea>;
     [[nodiscard]] static QWidget& ParentOf(SheetFrame& frame);
 
     Control& control_;

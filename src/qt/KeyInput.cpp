@@ -37,9 +37,9 @@ bool KeyInput::Handle(QEvent& event)
     case QEvent::KeyPress: Down(static_cast<QKeyEvent&>(event)); return true;
     case QEvent::KeyRelease: {
         auto& key = static_cast<QKeyEvent&>(event);
+        key.setAccepted(IsHeard());
         if (!key.isAutoRepeat())
             frame_.Do([&] { frame_.Platform()->TheKeys().Up(StrokeOf(key)); });
-        key.accept();
         return true;
     }
     default: return false;
@@ -67,7 +67,7 @@ void KeyInput::Down(QKeyEvent& event)
             frame_.Echo().Tab(event.key() != Qt::Key_Backtab && !Has(stroke, Modifier::Shift));
         return;
     }
-    // What the grid alone has no use for may be the window's: its default button, its Esc.
+    // What the grid alone has no use for, or does not hear, may be the window's: its default button, its Esc.
     if (!wasEditing && !isEaten && !IsUsed(stroke))
         event.ignore();
 }
@@ -97,13 +97,21 @@ bool KeyInput::IsUsedByEditor(const Stroke& stroke) const
     default: break;
     }
     constexpr std::u16string_view editing = u"ACVXYZ";
-    return ctrl && kind == Child::Text1 && editing.find(static_cast<char16_t>(stroke.Code)) != editing.npos;
+    const bool holdsText =
+        kind == Child::Text1 || kind == Child::Combo1 || kind == Child::MaskEdBox1 || kind == Child::RichTextBox1;
+    return ctrl && holdsText && editing.find(static_cast<char16_t>(stroke.Code)) != editing.npos;
+}
+
+bool KeyInput::IsHeard() const
+{
+    const InputControl* const holder = frame_.Platform()->TheFocus().Holder();
+    return holder != nullptr && !holder->IsDeaf();
 }
 
 bool KeyInput::IsUsed(const Stroke& stroke) const
 {
     const std::shared_ptr<EnginePlatform> platform = frame_.Platform();
-    if (platform->TheFocus().Holder() == nullptr)
+    if (!IsHeard())
         return false;
     if (platform->FocusedEditor() != nullptr)
         return frame_.IsComposing() || IsUsedByEditor(stroke);

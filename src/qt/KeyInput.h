@@ -22,6 +22,7 @@ public:
 
 private:
     void Down(QKeyEvent& event);
+    [[nodiscard]] bool IsHeard() const; ///< Somebody has the focus, and is not deaf.
     /// Whether the focused control has a use for the key, so that no shortcut of the host's may take it.
     [[nodiscard]] bool IsUsed(const Stroke& stroke) const;
     [[nodiscard]] bool IsUsedByEditor(const Stroke& stroke) const;

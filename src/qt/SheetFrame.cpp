@@ -69,6 +69,8 @@ void SheetFrame::Drop(SheetFrame* frame)
     frame->isWhole_ = false;
     frame->toolkit_->Detach();
     frame->echo_->Stop();
+    for (const auto& [control, editor] : frame->editors_)
+        editor->AboutToGo();
     if (frame->activities_ == 0) {
         delete frame;
         return;

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QString>
+
+namespace Tessellon {
+
+/// Entries one below the other, as many as there is room for, with a scroll bar where there are more. It shows what
+/// whoever derives from it says, and changes nothing by itself but what is scrolled to.
+class EntryArea : public QAbstractScrollArea {
+public:
+    explicit EntryArea(QWidget* parent);
+
+    [[nodiscard]] int EntryAt(QPoint position) const; ///< In the viewport; -1 for none.
+    void ShowEntry(int index); ///< Scrolls as little as brings it into view.
+    void EntriesChanged(); ///< Their number, their texts or the font.
+    [[nodiscard]] int EntryHeight() const;
+    [[nodiscard]] int WidestEntry() const; ///< With the room that the style leaves around it.
+
+protected:
+    [[nodiscard]] virtual int EntryCount() const = 0;
+    [[nodiscard]] virtual QString EntryText(int index) const = 0;
+    [[nodiscard]] virtual bool IsEntrySelected(int index) const = 0;
+    [[nodiscard]] virtual int CurrentEntry() const = 0; ///< Where the keys are; -1 for nowhere.
+
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    void FollowSize();
+    [[nodiscard]] int WholeEntries() const;
+};
+
+} // namespace Tessellon

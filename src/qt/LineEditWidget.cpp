@@ -1,0 +1,197 @@
+#include "qt/LineEditWidget.h"
+
+#include "engine/controls/KeyCodes.h"
+#include "engine/fields/UnitPairs.h"
+#include "qt/KeyTranslation.h"
+#include "qt/Texts.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
+#include <QScopedValueRollback>
+#include <QValidator>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace Tessellon {
+
+/// Holds what is typed, pasted, dropped or composed to the control's limit and to one line, and leaves what was there
+/// already. A limit of the line edit itself would cut what code shows in it, too.
+class LineEditWidget::Limit : public QValidator {
+public:
+    explicit Limit(LineEditWidget& box)
+        : QValidator(&box)
+        , box_(box)
+    {
+    }
+
+    State validate(QString& text, int& caret) const override
+    {
+        if (!box_.isFollowing_)
+            Trim(OwnText(box_.Field().Text()), text, caret);
+        return Acceptable;
+    }
+
+private:
+    /// What was inserted ends at the caret; what stands behind that is what stood there before.
+    void Trim(const QString& before, QString& text, int& caret) const
+    {
+        const qsizetype kept = std::min<qsizetype>(caret, before.size() - (text.size() - caret));
+        qsizetype begin = 0;
+        while (begin < kept && before[begin] == text[begin])
+            ++begin;
+        const qsizetype units = caret - begin;
+        QString inserted =
+            OneLine(UnitsOf(text).substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(units)));
+        const qsizetype most = box_.Field().MaxLength();
+        if (most > 0)
+            inserted.truncate(std::clamp<qsizetype>(most - (text.size() - units), 0, inserted.size()));
+        if (inserted.size() < units && !inserted.isEmpty() && inserted.back().isHighSurrogate())
+            inserted.chop(1);
+        if (inserted == QStringView(text).mid(begin, units))
+            return;
+        text.replace(begin, units, inserted);
+        caret = static_cast<int>(begin + inserted.size());
+    }
+
+    LineEditWidget& box_;
+};
+
+LineEditWidget::LineEditWidget(SheetFrame& frame, ControlCore& control)
+    : EditorOn(frame, control, {QPalette::Base, QPalette::Text})
+{
+    setFrame(false);
+    setTextMargins(1, 0, 1, 0);
+    setMaxLength(std::numeric_limits<int>::max());
+    setValidator(new Limit(*this));
+    connect(this, &QLineEdit::textEdited, this, [this] { Report(); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { Report(); });
+    connect(this, &QLineEdit::selectionChanged, this, [this] { Report(); });
+}
+
+// ---- What the control shows -----------------------------------------------------------------------------------------
+
+void LineEditWidget::ShowContent()
+{
+    const QScopedValueRollback following(isFollowing_, true);
+    const QString text = OwnText(Field().Text());
+    firstHalf_ = 0;
+    if (this->text() != text)
+        setText(text);
+    setCursorPosition(Field().Caret());
+}
+
+void LineEditWidget::ShowCaret()
+{
+    const QScopedValueRollback following(isFollowing_, true);
+    deselect();
+    setCursorPosition(Field().Caret());
+}
+
+// ---- Keys and characters --------------------------------------------------------------------------------------------
+
+/// Enter, Esc and Tab are the sheet's alone; a line edit would tell its own signals of them. A key without a code only
+/// has its character.
+bool LineEditWidget::TakeKey(std::int16_t keyCode, std::int16_t shift)
+{
+    if (keyCode == 0 || keyCode == KeyCode::Enter || keyCode == KeyCode::Escape || keyCode == KeyCode::Tab)
+        return true;
+    {
+        const QScopedValueRollback taking(isTaking_, true);
+        QKeyEvent key(QEvent::KeyPress, QtKeyOf(keyCode), ModifiersOf(shift));
+        QLineEdit::keyPressEvent(&key);
+    }
+    firstHalf_ = 0;
+    Tell();
+    return true;
+}
+
+bool LineEditWidget::TakeCharacter(char16_t character)
+{
+    if (IsControlCharacter(character))
+        return true;
+    // The halves of a pair come one by one and go in together, or not at all.
+    if (IsHighSurrogate(character)) {
+        firstHalf_ = character;
+        return true;
+    }
+    const char16_t first = std::exchange(firstHalf_, u'\0');
+    {
+        const QScopedValueRollback taking(isTaking_, true);
+        insert(first != 0 && IsLowSurrogate(character) ? QString(QChar(first)) + QChar(character)
+                                                       : QString(QChar(character)));
+    }
+    Tell();
+    return true;
+}
+
+/// With a selection the caret of the control is where that begins, at whichever end the widget has its own.
+int LineEditWidget::SelStart() const
+{
+    return hasSelectedText() ? selectionStart() : cursorPosition();
+}
+
+void LineEditWidget::Tell()
+{
+    Edited(UnitsOf(text()), SelStart());
+}
+
+void LineEditWidget::Report()
+{
+    const TextState& state = Field();
+    if (isFollowing_ || isTaking_ || (SelStart() == state.Caret() && UnitsOf(text()) == state.Text()))
+        return;
+    frame_.Do([this] { Tell(); });
+}
+
+// ---- Input methods --------------------------------------------------------------------------------------------------
+
+/// What is committed is typed, character by character, so that the sheet hears of it as of any other.
+void LineEditWidget::inputMethodEvent(QInputMethodEvent* event)
+{
+    const QString committed = event->commitString();
+    composed_ = event->preeditString();
+    if (committed.isEmpty()) {
+        QLineEdit::inputMethodEvent(event);
+        return;
+    }
+    const QString composedNext = std::exchange(composed_, {});
+    QInputMethodEvent emptied;
+    emptied.setCommitString({}, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&emptied);
+    TypeAll(committed);
+    if (!composedNext.isEmpty() && TheControl().HasFocus()) {
+        composed_ = composedNext;
+        QInputMethodEvent rest(composedNext, event->attributes());
+        QLineEdit::inputMethodEvent(&rest);
+    }
+    event->accept();
+}
+
+/// A commit that comes because code has taken the box down finds nobody to type to.
+void LineEditWidget::TypeAll(const QString& text)
+{
+    if (!TheControl().HasFocus() || !TheControl().CanHaveFocus())
+        return;
+    frame_.Do([&] {
+        const std::shared_ptr<EnginePlatform> platform = frame_.Platform();
+        for (const QChar unit : text)
+            platform->TheKeys().Type(unit.unicode());
+    });
+}
+
+void LineEditWidget::CommitComposition()
+{
+    if (!IsComposing())
+        return;
+    QGuiApplication::inputMethod()->commit();
+    if (!IsComposing())
+        return;
+    QInputMethodEvent taken;
+    taken.setCommitString(composed_);
+    inputMethodEvent(&taken);
+}
+
+} // namespace Tessellon
