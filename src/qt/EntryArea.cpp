@@ -92,6 +92,16 @@ void EntryArea::resizeEvent(QResizeEvent* /*event*/)
     ShowEntry(CurrentEntry());
 }
 
+void EntryArea::wheelEvent(QWheelEvent* event)
+{
+    constexpr int entriesANotch = 3;
+    turned_ += event->angleDelta().y();
+    const int notches = turned_ / QWheelEvent::DefaultDeltasPerStep;
+    turned_ %= QWheelEvent::DefaultDeltasPerStep;
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - notches * entriesANotch);
+    event->accept();
+}
+
 void EntryArea::scrollContentsBy(int /*dx*/, int /*dy*/)
 {
     viewport()->update();

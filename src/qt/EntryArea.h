@@ -25,11 +25,14 @@ protected:
 
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override; ///< Scrolls, and never what lies under the area.
     void scrollContentsBy(int dx, int dy) override;
 
 private:
     void FollowSize();
     [[nodiscard]] int WholeEntries() const;
+
+    int turned_ = 0; ///< Of the wheel, what is no whole notch yet, in eighths of a degree.
 };
 
 } // namespace Tessellon

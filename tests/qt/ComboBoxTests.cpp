@@ -1,9 +1,11 @@
 #include "ChoiceForm.h"
+#include "PaintedArea.h"
 
 #include <QAction>
 #include <QDialog>
 #include <QInputMethodEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -18,7 +20,7 @@ class ComboOnTheDesktop : public ChoiceForm {};
 
 TEST_F(ComboOnTheDesktop, StandsOverItsCell_WithTheButtonAtItsEnd)
 {
-    const QRect cell = View().PixelsAround(Frame().Platform()->TheGrid().RectangleOf({1, 1}));
+    const QRect cell = PlaceOf({1, 1});
     EXPECT_EQ(FocusName(), u"Combo1(0)");
     EXPECT_EQ(QApplication::focusWidget(), &Combo());
     EXPECT_EQ(Combo().geometry().topLeft(), cell.topLeft());
@@ -206,6 +208,26 @@ TEST_F(ComboOnTheDesktop, Wheel_ScrollsTheGrid_AndChoosesNothing)
     EXPECT_EQ(Sheet->TextMatrix(1, 1), QStringLiteral("red"));
 }
 
+TEST_F(ComboOnTheDesktop, WheelOverTheOpenList_ScrollsTheList_AndNotTheGrid)
+{
+    Sheet->CreateColumnDataType(1, QStringLiteral("Figure"), fcComboBox,
+                                QStringLiteral("a|b|c|d|e|f|g|h|i|j|k|l|m|n|o|p"), false, fcLeft, 0, faNil, false);
+    Sheet->BuildGridColumns();
+    WindowClick({1, 1});
+    WindowKey(Qt::Key_F4);
+    ComboList& list = Combo().List();
+    Turn(*list.viewport(), -120);
+    EXPECT_EQ(list.verticalScrollBar()->value(), 3);
+    Turn(*list.verticalScrollBar(), -1200);
+    EXPECT_EQ(list.verticalScrollBar()->value(), list.verticalScrollBar()->maximum());
+    EXPECT_EQ(list.verticalScrollBar()->maximum(), 6);
+    EXPECT_TRUE(list.isVisible());
+    EXPECT_EQ(Frame().Platform()->TheGrid().TopRow(), 1);
+    EXPECT_EQ(Combo().text(), QString());
+    ClickInList(0);
+    EXPECT_EQ(Sheet->TextMatrix(1, 1), QStringLiteral("g"));
+}
+
 TEST_F(ComboOnTheDesktop, DoubleClickInTheField_SelectsTheWord)
 {
     QTest::keyClick(Window->windowHandle(), 'a');
@@ -250,6 +272,19 @@ TEST_F(ComboOnTheDesktop, ShortcutsOfTheHost_GetOnlyWhatTheComboHasNoUseFor)
     WindowKey(Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(triggered, 1);
     EXPECT_EQ(Sheet->TextMatrix(1, 1), QString());
+}
+
+TEST_F(ComboOnTheDesktop, AdvanceToTheList_PaintsWhatTheTwoEditorsCover_AndNoMore)
+{
+    const QRect left = Combo().geometry();
+    const PaintedArea area(View());
+    WindowKey(Qt::Key_Return);
+    QTest::qWait(20);
+    ASSERT_EQ(FocusName(), u"List1(0)");
+    const QRegion expected = QRegion(left) + ListBox().geometry() + PlaceOf({1, 1}) + PlaceOf({1, 2});
+    EXPECT_FALSE(area.Painted.isEmpty());
+    EXPECT_TRUE((area.Painted - expected).isEmpty()) << area.Pixels;
+    EXPECT_LE(area.Pixels, PaintedArea::PixelsOf(expected)) << "nothing twice";
 }
 
 TEST_F(ComboOnTheDesktop, SheetMayGo_WhenEnterClosesTheList)

@@ -60,9 +60,9 @@ void Form::Hear()
     QObject::connect(Sheet, &SheetWidget::Scroll, note("Scroll"));
 }
 
-QPoint Form::MiddleOf(GridCell cell) const
+QRect Form::PlaceOf(GridCell cell) const
 {
-    return View().PixelsAround(Frame().Platform()->TheGrid().RectangleOf(cell)).center();
+    return View().PixelsAround(Frame().Platform()->TheGrid().RectangleOf(cell));
 }
 
 void Form::Click(GridCell cell) const

@@ -43,7 +43,8 @@ protected:
         return EditorIn<TextBoxWidget>(Frame(), Frame().Platform()->TheTextBox().get());
     }
     [[nodiscard]] std::u16string_view FocusName() const { return Frame().Platform()->FocusName(); }
-    [[nodiscard]] QPoint MiddleOf(GridCell cell) const; ///< In the view.
+    [[nodiscard]] QRect PlaceOf(GridCell cell) const; ///< In the view.
+    [[nodiscard]] QPoint MiddleOf(GridCell cell) const { return PlaceOf(cell).center(); }
     void Click(GridCell cell) const;
     /// A press as the window gets it: at the widget that lies there.
     static void ClickThroughWindow(QWidget& target);

@@ -1,9 +1,8 @@
 #include "Form.h"
+#include "PaintedArea.h"
 
 #include "qt/CellPainter.h"
 #include "qt/Colors.h"
-
-#include <QPaintEvent>
 
 #include <cmath>
 #include <set>
@@ -11,33 +10,6 @@
 namespace Tessellon {
 
 namespace {
-
-/// Notes what is painted of a widget.
-class PaintedArea : public QObject {
-public:
-    explicit PaintedArea(QWidget& widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            const QRegion& region = static_cast<QPaintEvent*>(event)->region();
-            Pixels += PixelsOf(region);
-            Painted += region;
-        }
-        return false;
-    }
-
-    static int PixelsOf(const QRegion& region)
-    {
-        int sum = 0;
-        for (const QRect& part : region)
-            sum += part.width() * part.height();
-        return sum;
-    }
-
-    int Pixels = 0; ///< Each as often as it was painted.
-    QRegion Painted;
-};
 
 class Painting : public Form {
 protected:
@@ -49,11 +21,6 @@ protected:
         Sheet->Row(2);
         Click({2, 1});
         QTest::qWait(20);
-    }
-
-    [[nodiscard]] QRegion PlaceOf(GridCell cell) const
-    {
-        return View().PixelsAround(Frame().Platform()->TheGrid().RectangleOf(cell));
     }
 };
 
@@ -75,7 +42,7 @@ TEST_F(Painting, AdvanceByEnter_PaintsTwoCellsAndNoMore)
     Key(Qt::Key_Return);
     QTest::qWait(20);
     ASSERT_EQ(Sheet->Col(), 2);
-    const QRegion expected = PlaceOf({2, 1}) + PlaceOf({2, 2});
+    const QRegion expected = QRegion(PlaceOf({2, 1})) + PlaceOf({2, 2});
     EXPECT_FALSE(area.Painted.isEmpty());
     EXPECT_TRUE((area.Painted - expected).isEmpty()) << area.Pixels;
     EXPECT_LE(area.Pixels, PaintedArea::PixelsOf(expected)) << "nothing twice";
@@ -87,7 +54,7 @@ TEST_F(Painting, AdvanceToAnotherRow_PaintsTwoCellsAndTheMarker)
     Key(Qt::Key_Down);
     QTest::qWait(20);
     ASSERT_EQ(Sheet->Row(), 3);
-    const QRegion expected = PlaceOf({2, 1}) + PlaceOf({3, 1}) + PlaceOf({2, 0}) + PlaceOf({3, 0});
+    const QRegion expected = QRegion(PlaceOf({2, 1})) + PlaceOf({3, 1}) + PlaceOf({2, 0}) + PlaceOf({3, 0});
     EXPECT_TRUE((area.Painted - expected).isEmpty()) << area.Pixels;
     EXPECT_LE(area.Pixels, PaintedArea::PixelsOf(expected)) << "nothing twice";
 }
@@ -231,7 +198,7 @@ TEST_F(Painting, DarkPalette_GivesADarkSheet_WhoseBandsKeepTheirColours)
     QTest::qWait(20);
     const QImage image = View().grab().toImage();
     const auto colorIn = [&](GridCell cell) {
-        const QRect place = PlaceOf(cell).boundingRect();
+        const QRect place = PlaceOf(cell);
         return image.pixelColor(place.right() - 4, place.top() + 3);
     };
     EXPECT_EQ(colorIn({0, 1}), DarkPalette().color(QPalette::Button));
