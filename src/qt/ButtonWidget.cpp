@@ -1,5 +1,6 @@
 #include "qt/ButtonWidget.h"
 
+#include "qt/Colors.h"
 #include "qt/Texts.h"
 
 #include <QStyleOptionButton>
@@ -13,6 +14,14 @@ ButtonWidget::ButtonWidget(SheetFrame& frame, CommandButtonControl& control)
     setAutoDefault(false);
     // The caption is read from the control when it is painted, so that Qt sees no mnemonic in it.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+}
+
+/// No colour of the sheet's: only the caption of a button that is disabled is kept readable.
+void ButtonWidget::Dress(QPalette& colors) const
+{
+    colors.setColor(
+        QPalette::Disabled, QPalette::ButtonText,
+        Faded(colors.color(QPalette::Active, QPalette::ButtonText), colors.color(QPalette::Active, QPalette::Button)));
 }
 
 void ButtonWidget::initStyleOption(QStyleOptionButton* option) const

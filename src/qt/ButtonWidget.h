@@ -13,7 +13,7 @@ public:
     ButtonWidget(SheetFrame& frame, CommandButtonControl& control);
 
 protected:
-    void Dress(QPalette& /*colors*/) const override {}
+    void Dress(QPalette& colors) const override;
     void ShowLook() override { update(); }
     void AboutToGo() override { setDown(false); }
     void Pressed(QMouseEvent& event) override { setDown(event.button() == Qt::LeftButton); }

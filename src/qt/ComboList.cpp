@@ -20,7 +20,7 @@ ComboList::ComboList(SheetFrame& frame, ComboBoxControl& control, QWidget& combo
     , control_(control)
     , combo_(combo)
 {
-    setWindowFlags(Qt::ToolTip);
+    setWindowFlags(Qt::ToolTip | Qt::WindowDoesNotAcceptFocus);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_X11NetWmWindowTypeCombo);
     setFocusPolicy(Qt::NoFocus);
