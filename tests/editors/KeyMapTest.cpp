@@ -52,7 +52,7 @@ constexpr KeyMapRow keyMap[] = {
              "restore, down", "restore through the date format, down", "restore, down", "restore, down"}},
     {"Enter", {"next", "write value, next", "next", "next, writing the selection on the last cell only",
                "write text if it had any, next", "write value, next", "Ctrl: new line; else next", "click"}},
-    {"Space", {"typed", "platform toggles", "platform", "platform",
+    {"Space", {"typed", "platform toggles", "write text; typed", "platform",
                "typed", "platform", "typed", "click"}},
     {"Left", {"previous if caret at 0", "previous", "previous on every second press", "previous",
               "previous if caret at 0", "nothing", "previous if caret at 0", "nothing"}},
@@ -260,6 +260,8 @@ private:
     static bool IsMoved(const Seen& seen) { return seen.Cursor != std::pair{2, 2}; }
     static bool IsWritten(const Seen& seen) { return seen.Cell != sentinel; }
 
+    static bool IsIdle(const Seen& seen) { return seen.Calls == 0 && seen.Clicks == 0 && seen.IsUp; }
+
     /// Where the cursor went, each time behind a stand-down.
     static std::string Way(const Seen& seen)
     {
@@ -303,12 +305,14 @@ private:
 
     std::string Space()
     {
-        const Seen seen = Open().Press(Key::Space);
+        const Seen seen = Open().Mark().Press(Key::Space);
         if (seen.Clicks == 1)
             return "click";
         if (IsMoved(seen) || !seen.IsUp || seen.Code != Key::Space || !seen.CharacterReachedIt)
             return "taken away from the control";
-        return seen.Cell == kind_.Text && seen.CellInTheEnd == u"False" ? "platform toggles" : "left to the control";
+        if (IsWritten(seen))
+            return seen.Cell == kind_.Text ? "write text; typed" : "something";
+        return seen.CellInTheEnd == u"False" ? "platform toggles" : "left to the control";
     }
 
     std::string Sideways(std::int16_t code)
@@ -327,7 +331,7 @@ private:
                 atEnd += caret == 3 ? 1 : 0;
                 continue;
             }
-            if (once.Calls != 0)
+            if (!IsIdle(once))
                 return "something";
             const Seen twice = middle_.Press(code);
             if (IsMoved(twice)) {
@@ -358,7 +362,7 @@ private:
             return Way(seen);
         if (seen.Cell == kind_.Text && seen.CellInTheEnd == (code == Key::Up ? u"One" : u"Three"))
             return kind_.Control == Child::List1 ? selectionMoves : textMoves;
-        return seen.Calls == 0 && seen.IsUp ? "nothing" : "something";
+        return IsIdle(seen) ? "nothing" : "something";
     }
 
     std::string Other()
@@ -368,7 +372,7 @@ private:
             const Seen seen = Open().Mark().Press(code);
             const std::string now = !seen.IsUp || IsMoved(seen) ? "something"
                                     : seen.Cell == kind_.Text   ? "write text"
-                                    : seen.Calls == 0           ? "nothing"
+                                    : IsIdle(seen)              ? "nothing"
                                                                 : "something";
             if (!words.empty() && words != now)
                 return "unsteady";
