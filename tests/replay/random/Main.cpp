@@ -36,9 +36,26 @@ constexpr const char* usage =
     "       replay_random FILE...              the scripts of these files\n"
     "Exit status 1 where two platforms differ, or where random scripts left something of the language out.\n";
 
-/// The record of a script, with the calls that it made behind it.
-std::string Played(const Script& script, std::unique_ptr<Stage> stage)
+#ifdef TESSELLON_QT_STAGE
+constexpr const char* otherName = "qt";
+std::unique_ptr<Stage> MakeOtherStage()
 {
+    return MakeQtStage();
+}
+#else
+// A build with one platform plays there twice: the record is the same at any time.
+constexpr const char* otherName = "again";
+std::unique_ptr<Stage> MakeOtherStage()
+{
+    return MakeHeadlessStage();
+}
+#endif
+
+/// The record of a script, with the calls that it made behind it.
+std::string Played(const std::string& text, std::unique_ptr<Stage> stage)
+{
+    Script script = ReadScript(text);
+    script.AsksForJournal = true;
     Output output;
     Runner runner(*stage, output);
     runner.Run(script);
@@ -59,12 +76,12 @@ std::optional<std::string_view> TakeLine(std::string_view& text)
 }
 
 /// Prints the first line in which two records differ, behind the command that it belongs to.
-void PrintDifference(const std::string& name, std::string_view headless, std::string_view desktop)
+void PrintDifference(const std::string& name, std::string_view headless, std::string_view played)
 {
     std::string_view command = "(before the first command)";
     for (int number = 1;; ++number) {
         const std::optional<std::string_view> line = TakeLine(headless);
-        const std::optional<std::string_view> other = TakeLine(desktop);
+        const std::optional<std::string_view> other = TakeLine(played);
         if (line == other && line) {
             command = line->starts_with("> ") ? *line : command;
             continue;
@@ -72,27 +89,21 @@ void PrintDifference(const std::string& name, std::string_view headless, std::st
         const auto shown = [](const std::optional<std::string_view>& text) {
             return text ? std::string(*text) : "(nothing more)";
         };
-        std::printf("%s: the platforms differ in line %d, behind %s\n  headless: %s\n  qt:       %s\n", name.c_str(),
-                    number, std::string(command).c_str(), shown(line).c_str(), shown(other).c_str());
+        std::printf("%s: the platforms differ in line %d, behind %s\n", name.c_str(), number,
+                    std::string(command).c_str());
+        std::printf("  headless: %s\n  %s: %s\n", shown(line).c_str(), otherName, shown(other).c_str());
         return;
     }
 }
 
-/// Plays a script everywhere and returns its record; none where platforms differ.
+/// Plays a script on both platforms and returns its record; none where they differ.
 std::optional<std::string> Compare(const std::string& name, const std::string& text)
 {
-    Script script = ReadScript(text);
-    script.AsksForJournal = true;
-    std::string headless = Played(script, MakeHeadlessStage());
-#ifdef TESSELLON_QT_STAGE
-    // A script is read anew: its recordsets have moved.
-    script = ReadScript(text);
-    script.AsksForJournal = true;
-    if (const std::string desktop = Played(script, MakeQtStage()); desktop != headless) {
-        PrintDifference(name, headless, desktop);
+    std::string headless = Played(text, MakeHeadlessStage());
+    if (const std::string other = Played(text, MakeOtherStage()); other != headless) {
+        PrintDifference(name, headless, other);
         return std::nullopt;
     }
-#endif
     return headless;
 }
 
