@@ -325,6 +325,30 @@ TEST_F(BuildGridColumns, WithAllColumnsHidden_GoesToTheFirstRowAlone)
     EXPECT_EQ(PlaceOf(calls, "MSFlexGrid1.LeftCol=1"), calls.size());
 }
 
+TEST_F(BuildGridColumns, WithAllColumnsTakenAway_GoesToTheFirstRowAlone)
+{
+    Sheet.Build({fcTextBox}, 2);
+    Sheet->Cols(1);
+    const Lines calls = CallsOfBuild();
+    ASSERT_EQ(Members.FirstVisibleCol, 1);
+    EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines{});
+    EXPECT_EQ(CountOf(calls, "MSFlexGrid1.Col=1"), 0);
+    EXPECT_EQ(CountOf(calls, "MSFlexGrid1.LeftCol=1"), 0);
+    EXPECT_EQ(CountOf(calls, "MSFlexGrid1.TopRow=1"), 1);
+}
+
+TEST_F(BuildGridColumns, ColumnsThatTheGridRefuses_AreNotCounted)
+{
+    Sheet.Build({fcTextBox, fcTextBox}, 2);
+    const auto last = static_cast<std::int32_t>(PlaceOf(CallsOfBuild(), "MSFlexGrid1.Cols=3"));
+    Members.ColCount = 7;
+    Sheet.Calls->FailAtCall(last + 1, 7);
+    Sheet->BuildGridColumns();
+    EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines{"BuildGridColumns"});
+    EXPECT_EQ(Grid().Cols(), 1);
+    EXPECT_EQ(Members.ColCount, 7);
+}
+
 TEST_F(BuildGridColumns, EmptiesTheCellsAndKeepsTheRowsAndTheWidths)
 {
     Sheet.Build({fcTextBox, fcTextBox}, 3);

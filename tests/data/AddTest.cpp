@@ -46,6 +46,30 @@ protected:
     SheetMembers& Members = Probe.Members();
 };
 
+TEST_F(AddingRows, Refused_AsksNothingOfTheGrid)
+{
+    Sheet.Calls->FailAtMember(u"MSFlexGrid1.Rows", 7);
+    Sheet->Add(-1);
+    EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines());
+    Sheet->Add(1);
+    EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines{"Add"});
+}
+
+TEST_F(AddingRows, WhereTheMarkerCannotBeShown_KeepItsRow)
+{
+    Members.ColumnsDeclared = false;
+    Members.MarkerRow = -1;
+    Sheet->Add(1);
+    EXPECT_EQ(Members.MarkerRow, -1);
+}
+
+TEST_F(AddingRows, CountAsAClickOnARowBehindTheEntryOfTheCell)
+{
+    Sheet->EnterCell += [&] { Members.GridRowClickPending = false; };
+    Sheet->Add(1);
+    EXPECT_TRUE(Members.GridRowClickPending);
+}
+
 TEST_F(AddingRows, BehindARow_PutsItOnTopOfTheViewStepByStep)
 {
     Members.ColumnsDeclared = false; // No marker walks among the calls.

@@ -78,6 +78,17 @@ TEST_F(Aggregates, SheetWithNothingButAHeading_GivesNothingAndNoSuccess)
     }
 }
 
+TEST(AggregatesOfASingleCell, AreItsValue)
+{
+    SheetUnderTest sheet;
+    sheet.Build({fcTextBox}, 1);
+    sheet->TextMatrix(1, 1, u"7");
+    bool success = false;
+    EXPECT_EQ(sheet->Summation(1, success), 7);
+    EXPECT_TRUE(success);
+    EXPECT_EQ(sheet->Minimum(1, mtString, success), u"7");
+}
+
 TEST_F(Aggregates, ColumnOfBlanks_SucceedsWithTheStartingValues)
 {
     Fill({u" ", u"", u"   "});

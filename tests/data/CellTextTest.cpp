@@ -76,6 +76,14 @@ TEST_F(CellText, OfANumberInAFormattedColumn_GoesByTheFormatAndANullAsZero)
     EXPECT_EQ(Loaded(adInteger, OfInteger(5), fcTextBox, u"0.00"), u"5") << "no masked column";
 }
 
+TEST_F(CellText, OfATruthFieldThatHoldsText_GoesByTheWordOrTheNumber)
+{
+    EXPECT_EQ(Loaded(adBoolean, OfText(u" true ")), u"True");
+    EXPECT_EQ(Loaded(adBoolean, OfText(u"False")), u"False");
+    EXPECT_EQ(Loaded(adBoolean, OfText(u"2")), u"True");
+    EXPECT_EQ(Loaded(adBoolean, OfText(u"0")), u"False");
+}
+
 TEST_F(CellText, OfADateTextOrTruthField_KnowsNoFormatOfTheColumn)
 {
     constexpr double date = 45366.75;

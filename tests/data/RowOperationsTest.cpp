@@ -114,6 +114,14 @@ TEST_F(SearchColumn, LastRow_IsSearchedToo)
     EXPECT_EQ(Sheet->SearchCol(2, u"Ada"), 4);
 }
 
+TEST(SearchOfASheetOfOneRow, FindsIt)
+{
+    SheetUnderTest sheet;
+    sheet.Build({fcTextBox}, 1);
+    sheet->TextMatrix(1, 1, u"a");
+    EXPECT_EQ(sheet->SearchCol(1, u"a"), 1);
+}
+
 TEST_F(SearchColumn, HeadingAndOtherColumns_AreNotSearched)
 {
     SetCell(2, 1, u"Ada");

@@ -1,3 +1,4 @@
+#include "failure/FailureRecord.h"
 #include "support/Lines.h"
 #include "support/SheetProbe.h"
 #include "support/SheetUnderTest.h"
@@ -186,6 +187,7 @@ TEST_P(EndedInsideAnEvent, WhileAFailureIsDue_ShowsNoBoxAndCarriesOn)
 
     EXPECT_EQ(Endings, 1);
     EXPECT_EQ(Sheet.Heard, Lines{});
+    EXPECT_EQ(ThreadFailureRecord().Number, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, EndedInsideAnEvent, testing::ValuesIn(AllEvents()),

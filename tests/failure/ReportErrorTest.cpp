@@ -144,6 +144,15 @@ TEST_F(Report, LeavesTheRecordEmpty)
     EXPECT_EQ(ThreadFailureRecord().Description, u"");
 }
 
+TEST_F(Report, StillHoldsTheFailureInTheRecordWhileTheHostIsTold)
+{
+    Sheet->ShowErrMessage(false);
+    std::int32_t inside = 0;
+    Sheet->ErrInfo += [&](auto&&...) { inside = ThreadFailureRecord().Number; };
+    FailInTextMatrix();
+    EXPECT_EQ(inside, 7);
+}
+
 TEST_F(Report, BoxHasTheCriticalIconAndOneButton)
 {
     class StyleToolkit : public HeadlessToolkit {

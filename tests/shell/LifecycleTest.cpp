@@ -342,6 +342,41 @@ TEST_F(Lifecycle, FocusThatCannotBeGivenBack_IsPassedOver)
     EXPECT_EQ(Sheet.TakeEventNames(), Lines{"ExitFocus"});
 }
 
+// ---- The empty grid -------------------------------------------------------------------------------------------------
+
+TEST_F(Lifecycle, GridThatKeepsItsColumns_HasItsRowsNotCountedAnew)
+{
+    Sheet.Build({fcTextBox}, 3);
+    std::int32_t rowsInside = 0;
+    Sheet->ErrInfo += [&](auto&&...) { rowsInside = Sheet.Members().RowCount; };
+    Sheet.Calls->FailAtMember(u"MSFlexGrid1.Cols", 7);
+    Sheet->Clear();
+    EXPECT_EQ(Labels(Sheet.TakeEvents()), Lines{"ResizeGrid"});
+    EXPECT_EQ(rowsInside, 4);
+}
+
+TEST_F(Lifecycle, MirrorsOfTheCursor_AreReadFromTheEmptyGrid)
+{
+    Probe.Members().CurrentRow = Probe.Members().CurrentCol = 7;
+    Sheet->Clear();
+    EXPECT_EQ(Sheet->Row(), 0);
+    EXPECT_EQ(Sheet->Col(), 0);
+}
+
+TEST_F(Lifecycle, EndOfTheSheet_IsMarked)
+{
+    Sheet.Build({fcTextBox}, 2);
+    bool marked = false;
+    Sheet->LeaveCell += [&] {
+        const TessellonSheet& sheet = *Sheet.Sheet;
+        EXPECT_FALSE(sheet.Members().Terminating);
+        Sheet.Sheet.reset();
+        marked = sheet.Members().Terminating;
+    };
+    Sheet->Row(2);
+    EXPECT_TRUE(marked);
+}
+
 // ---- Taking all editors down ---------------------------------------------------------------------------------------
 
 TEST_F(Lifecycle, SetAllDisable_TakesEachEditorDownInOrder)

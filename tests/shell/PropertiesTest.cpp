@@ -24,6 +24,15 @@ TEST_F(Properties, RowOutsideTheDataRows_IsIgnored)
     }
 }
 
+TEST_F(Properties, DateFormatThatThePickerRefuses_HoldsForTheTextsAllTheSame)
+{
+    Sheet->TextMatrix(1, 1, u"02/03/2024");
+    Sheet.Calls->FailAtMember(u"DTPicker1.Format", 7);
+    Sheet->DateFormat(u"MM/dd/yyyy");
+    bool success = false;
+    EXPECT_EQ(Sheet->Minimum(1, mtDate, success), u"02/03/2024");
+}
+
 TEST_F(Properties, LastRow_IsOneBelowTheNumberOfRows)
 {
     Sheet->Row(Sheet->Rows() - 1);
