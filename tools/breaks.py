@@ -48,9 +48,10 @@ def in_function(code):
 
 REPLACED = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==", "&&": "||", "||": "&&", "+": "-",
             "-": "+", "*": "/", "/": "*", "%": "*", "+=": "-=", "-=": "+="}
-KEYWORDS = ("const constexpr auto static return template friend enum class struct case default public private protected if "
-            "for while switch else do try catch using").replace(" ", "|")
+KEYWORDS = ("const constexpr auto static return template friend enum class struct case default public private protected "
+            "if for while switch else do try catch using").replace(" ", "|")
 DECLARATION = re.compile(rf"(?:{KEYWORDS})\b|[\w:<>,*& ]+[>\w&*] +\w+ *[=({{;]")
+PLAIN_DECLARATION = re.compile(r"[\w:<>,* ]+ \w+(?: = (?:[\d.]+|true|false))?;")
 LABEL = re.compile(r"\s*(?:case [^:]+(?:::\w+)*|default): ?")
 
 
@@ -115,10 +116,11 @@ def edits(text):
         indent = len(code[begin:stop]) - len(code[begin:stop].lstrip())
         if words == "return;" or not DECLARATION.match(words):
             yield begin + indent, stop, ";", "drop"
-        if second != last + 1 or re.match(r"break|return|continue|throw", words) or before[-1:] in ")e":
-            continue
         begin2, stop2 = starts[second], starts[end + 1] - 1
         follower = code[begin2:stop2]
+        if (second != last + 1 or re.match(r"break|return|continue|throw", words) or before[-1:] in ")e"
+                or PLAIN_DECLARATION.fullmatch(words) or PLAIN_DECLARATION.fullmatch(follower.strip())):
+            continue
         if re.match(r" " * indent + r"(?!(?:break|return|continue|throw|static)\b)\w", follower):
             yield begin, stop2, text[begin2:stop2] + "\n" + text[begin:stop], "swap"
 
