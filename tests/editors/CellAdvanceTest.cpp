@@ -128,6 +128,14 @@ TEST_F(CellAdvance, LeftFromTheFirstCell_GoesNowhereAndTheSameEditorComesUpAgain
     ExpectNoMove({1, 1});
 }
 
+TEST_F(CellAdvance, LeftFromTheMarkerColumn_GoesNowhere)
+{
+    Build({fcTextBox, fcTextBox}, 2, 1);
+    Members.CurrentCol = 0;
+    Probe.IncrementCell(-1, 0);
+    ExpectNoMove({2, 1});
+}
+
 TEST_F(CellAdvance, UpFromTheFirstRow_GoesNowhereAndTheSameEditorComesUpAgain)
 {
     for (const std::int32_t col : {1, 2}) {
@@ -398,6 +406,16 @@ TEST_F(ExpectedScrolling, RowAboveTheView_IsAnnounced)
     EXPECT_TRUE(requestAtScroll);
     EXPECT_FALSE(Members.ScrollDownPending);
     EXPECT_EQ(Sheet.EditorsUp(), Lines{"Text1 \"\""});
+}
+
+TEST_F(ExpectedScrolling, TopmostRow_IsMeasured)
+{
+    BuildLarge(40);
+    GoTo(6, 1);
+    Sheet.Hand.Scroll(5, 1);
+    Probe.IncrementCell(0, -1);
+    EXPECT_EQ(Cursor(), Cell(5, 1));
+    EXPECT_FALSE(Members.ScrollDownPending);
 }
 
 TEST_F(ExpectedScrolling, LastRow_IsAnnouncedByTheMoveOfTheView)

@@ -130,6 +130,7 @@ TEST_F(ControlArrays, ColumnThatIsNotThereOrHasNoRows_CountsAsEditable)
         EXPECT_TRUE(Probe.IsColEditable(1));
         Members.*count = kept;
     }
+    EXPECT_EQ(Sheet.TakeEvents(), Lines());
 }
 
 TEST_F(ControlArrays, IsColEditableThatFails_ReportsUnderItsLabelAndIsTrue)

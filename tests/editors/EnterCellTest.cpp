@@ -335,6 +335,18 @@ TEST_F(EnteringACell, FailureInThePlacing_LeavesTheEditorUnshown)
     EXPECT_EQ(Members.ActiveEditor, Sheet.Calls->Text1());
 }
 
+TEST_F(EnteringACell, EditorThatTheHostTakesDownAsItIsShown_IsNotAskedForTheFocus)
+{
+    BuildOne(fcDatePicker, u"");
+    Sheet->DateFormat(u"dd/MM/yyyy XX");
+    Sheet->Format += [&](std::u16string&, std::u16string&) { Probe.SetAllDisable(); };
+    Forget();
+    const Lines calls = CallsOfEntry();
+    EXPECT_EQ(CountOf(calls, "DTPicker1.Visible=True"), 1);
+    EXPECT_EQ(CountOf(calls, "DTPicker1.SetFocus()"), 0);
+    EXPECT_EQ(Sheet.TakeEventNames(), (Lines{"Format", "EnterCell"}));
+}
+
 TEST_F(EnteringACell, HostThatMovesOnInTheLoad_FailsTheNextStepWith438)
 {
     Sheet.Build({fcTextBox, fcCheckBox}, 1);

@@ -91,6 +91,7 @@ TEST_P(LosingTheFocus, ForNoColumn_ReportsOrPassesItOver)
     EXPECT_EQ(Labels(heard), GetParam().Reports ? Lines{GetParam().Name + "_LostFocus"} : Lines());
     EXPECT_EQ(heard.empty(), !GetParam().Reports);
     EXPECT_EQ(Sheet.TakeCalls().empty(), GetParam().Reports) << "in the silent ones the sweep still runs";
+    EXPECT_EQ(Sheet.EditorsUp(), Lines());
 }
 
 INSTANTIATE_TEST_SUITE_P(

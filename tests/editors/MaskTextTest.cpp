@@ -72,6 +72,7 @@ TEST(MaskText, TextLongerThanTheMask_KeepsItsSurplusInFrontSoThatItStandsTwice)
 TEST(MaskText, TextOfTheMasksLengthWithoutLiterals_StaysAsItIs)
 {
     EXPECT_EQ(Prepared(u"12345", u"##/##"), u"12345");
+    EXPECT_EQ(Prepared(u"45061", u"mmmm/"), u"45061") << "as a date it would be shorter";
 }
 
 TEST(MaskText, Failure_IsReportedAndLeavesWhatTheTextWasByThen)

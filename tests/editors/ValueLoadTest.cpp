@@ -229,6 +229,9 @@ TEST_F(LoadingAnEditor, MaskedBoxWithALengthPast16Bits_FailsBehindTheFontAndLeav
 
     BuildOne(fcMaskedEditBox, u"5", u"0.00", false, 32767);
     EXPECT_EQ(Entered({"MaskEdBox1(0).MaxLength"}), Lines{"MaskEdBox1(0).MaxLength=32767"});
+
+    Members.ColumnData.at(0).cdMaxLength = -32769;
+    EXPECT_EQ(Entered({"MaskEdBox1(0).MaxLength"}), Lines());
 }
 
 TEST_F(LoadingAnEditor, CellThatTheMaskRefuses_IsAFailureOfTheEntry)
