@@ -3,6 +3,7 @@
 #include "Literals.h"
 #include "ScriptError.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -72,6 +73,16 @@ bool SplitIndex(Name& control, Name& index)
     return true;
 }
 
+void AppendNames(std::vector<std::u16string>& all, Name control, Name members)
+{
+    while (!members.empty()) {
+        const std::size_t end = std::min(members.find(u' '), members.size());
+        if (end > 0)
+            all.push_back(std::u16string(control).append(1, u'.').append(members.substr(0, end)));
+        members.remove_prefix(std::min(end + 1, members.size()));
+    }
+}
+
 } // namespace
 
 std::u16string ReadMemberName(const Word& word)
@@ -95,6 +106,20 @@ std::u16string ReadMemberName(const Word& word)
             return word.Bare;
     }
     throw ScriptError(Shown(word) + " is no member that can fail");
+}
+
+std::vector<std::u16string> MemberNames()
+{
+    std::vector<std::u16string> all;
+    for (const ControlMembers& entry : controls) {
+        const bool isArray = !entry.InstanceMembers.empty();
+        const std::u16string first = std::u16string(entry.Control) + (isArray ? u"(0)" : u"");
+        AppendNames(all, isArray ? first : entry.Control, isArray ? entry.InstanceMembers : entry.Members);
+        AppendNames(all, first, entry.Common);
+        if (isArray)
+            AppendNames(all, entry.Control, entry.Members);
+    }
+    return all;
 }
 
 } // namespace Tessellon::Replay

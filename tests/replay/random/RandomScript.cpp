@@ -2,6 +2,7 @@
 
 #include "Events.h"
 #include "Forms.h"
+#include "MemberNames.h"
 #include "RandomValues.h"
 #include "Utf8.h"
 
@@ -18,88 +19,43 @@ namespace {
 
 constexpr std::uint32_t firstUsersSeed = 1000000;
 
-/// The arguments of the commands that the tables name, by the letters of RandomValue.
-const std::map<std::string_view, std::string_view> signatures{{"Row", "r"},
-                                                              {"Col", "c"},
-                                                              {"TextMatrix", "rct"},
-                                                              {"RowHeight", "hbb"},
-                                                              {"AllowAddNew", "b"},
-                                                              {"DateFormat", "f"},
-                                                              {"Cols", "N"},
-                                                              {"ColWidth", "ch"},
-                                                              {"CreateColumnDataType", "ctkgbaljb"},
-                                                              {"BackColor", "io"},
-                                                              {"RaiseError", "b"},
-                                                              {"ShowErrMessage", "b"},
-                                                              {"SearchCol", "ct"},
-                                                              {"Add", "rn"},
-                                                              {"Delete", "r"},
-                                                              {"Minimum", "cm"},
-                                                              {"Maximum", "cm"},
-                                                              {"Summation", "c"},
-                                                              {"Font", "wz"},
-                                                              {"Enabled", "b"},
-                                                              {"GetRowHeight", "r"},
-                                                              {"ColumnHeader", "c"},
-                                                              {"click", "rc"},
-                                                              {"dblclick", "rc"},
-                                                              {"drag", "rcrc"},
-                                                              {"press", "KM"},
-                                                              {"type", "t"},
-                                                              {"caret", "p"},
-                                                              {"select", "p"},
-                                                              {"pick", "d"},
-                                                              {"scroll", "rc"},
-                                                              {"hover", "xy"},
-                                                              {"mouse down", "xy"},
-                                                              {"mouse up", "xy"},
-                                                              {"mouse move", "xy"},
-                                                              {"over down", "xy"},
-                                                              {"over up", "xy"},
-                                                              {"over move", "xy"},
-                                                              {"over click", "xy"},
-                                                              {"over dblclick", "xy"},
-                                                              {"clock", "d"},
-                                                              {"resize", "xy"}};
+struct Signature {
+    std::string_view Arguments; ///< By the letters of RandomValue.
+    std::vector<std::string_view> Commands;
+};
+
+/// The arguments of the commands that the tables name; a question takes the first of them.
+const std::vector<Signature> signatures{
+    {"r", {"Row", "Delete", "GetRowHeight"}},
+    {"c", {"Col", "Summation", "ColumnHeader"}},
+    {"rct", {"TextMatrix"}},
+    {"hbb", {"RowHeight"}},
+    {"b", {"AllowAddNew", "RaiseError", "ShowErrMessage", "Enabled"}},
+    {"f", {"DateFormat"}},
+    {"N", {"Cols"}},
+    {"ch", {"ColWidth"}},
+    {"ctkgbaljb", {"CreateColumnDataType"}},
+    {"io", {"BackColor"}},
+    {"ct", {"SearchCol"}},
+    {"rn", {"Add"}},
+    {"cm", {"Minimum", "Maximum"}},
+    {"wz", {"Font"}},
+    {"rc", {"click", "dblclick", "scroll"}},
+    {"rcrc", {"drag"}},
+    {"KM", {"press"}},
+    {"t", {"type"}},
+    {"p", {"caret", "select"}},
+    {"d", {"pick", "clock"}},
+    {"xy",
+     {"hover", "mouse down", "mouse up", "mouse move", "over down", "over up", "over move", "over click",
+      "over dblclick", "resize"}},
+};
 
 /// What a user who goes to a column of the kind then does there.
 const std::map<std::string_view, std::string_view> kindOf{
     {"toggle", "fcCheckBox"},       {"push", "fcCommandButton"},     {"pick", "fcDatePicker"},
     {"select", "fcListBox"},        {"over click", "fcDatePicker"},  {"over dblclick", "fcTextBox"},
     {"over up", "fcCommandButton"}, {"over move", "fcCommandButton"}};
-
-const std::vector<std::string> failingMembers{"MSFlexGrid1.TextMatrix",
-                                              "MSFlexGrid1.Row",
-                                              "MSFlexGrid1.Col",
-                                              "MSFlexGrid1.TopRow",
-                                              "MSFlexGrid1.CellLeft",
-                                              "MSFlexGrid1.Refresh",
-                                              "MSFlexGrid1.SetFocus",
-                                              "MSFlexGrid1.CellPicture",
-                                              "MSFlexGrid1.AddItem",
-                                              "MSFlexGrid1.ColWidth",
-                                              "MSFlexGrid1.RemoveItem",
-                                              "Text1.Text",
-                                              "Text1.Visible",
-                                              "Text1.SetFocus",
-                                              "Check1.Value",
-                                              "Combo1(0).Text",
-                                              "Combo1.Load",
-                                              "Combo1.Unload",
-                                              "List1(0).Selected",
-                                              "List1(0).Enabled",
-                                              "DTPicker1.Value",
-                                              "DTPicker1.Visible",
-                                              "MaskEdBox1(0).Mask",
-                                              "MaskEdBox1(0).FormattedText",
-                                              "RichTextBox1.SelStart",
-                                              "RichTextBox1.Text",
-                                              "Command1(0).Caption",
-                                              "Command1(0).ZOrder",
-                                              "UserControl.TextWidth",
-                                              "Screen.MousePointer",
-                                              "Recordset.MoveNext",
-                                              "Recordset.EOF"};
 
 const std::vector<std::string> failureNumbers{"5", "7", "9", "380", "30009", "0", "1000"};
 
@@ -235,12 +191,14 @@ std::string Writer::WithArguments(const DrawnCommand& command)
     if (command.Most == 0)
         return command.Name;
     const std::string_view name = std::string_view(command.Name).substr(command.Name.starts_with("? ") ? 2 : 0);
-    const auto known = signatures.find(name);
-    if (known == signatures.end() || known->second.size() < command.Most)
+    const auto known = std::find_if(signatures.begin(), signatures.end(), [&](const Signature& signature) {
+        return std::find(signature.Commands.begin(), signature.Commands.end(), name) != signature.Commands.end();
+    });
+    if (known == signatures.end() || known->Arguments.size() < command.Most)
         throw std::logic_error("the arguments of " + command.Name + " are not known");
     std::string line = command.Name;
     const std::size_t count = command.Least + dice_.Below(command.Most - command.Least + 1);
-    for (const char letter : known->second.substr(0, count))
+    for (const char letter : known->Arguments.substr(0, count))
         line += ' ' + RandomValue(letter, dice_);
     return line;
 }
@@ -301,7 +259,8 @@ void Writer::DrawOwn(const std::string& name, bool mayEnd)
     } else if (name == "off") {
         Say("off " + EventName());
     } else if (name == "fail member") {
-        Say("fail " + dice_.OneOf(failingMembers) + ' ' + dice_.OneOf(failureNumbers));
+        static const std::vector<std::u16string> members = MemberNames();
+        Say("fail " + ToUtf8(dice_.OneOf(members)) + ' ' + dice_.OneOf(failureNumbers));
     } else if (name == "fail number") {
         Say("fail " + std::to_string(1 + dice_.Below(40)) + ' ' + dice_.OneOf(failureNumbers));
     } else if (name == "recordset") {
