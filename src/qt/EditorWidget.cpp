@@ -8,6 +8,7 @@
 #include "qt/MouseOver.h"
 
 #include <QPainter>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <cmath>
@@ -104,6 +105,13 @@ void EditorWidget::Look()
     Dress(colors);
     if (widget_.palette() != colors)
         widget_.setPalette(colors);
+    // Scroll bars are the desktop's, whatever the colours of what scrolls: named, so that they are not inherited.
+    QPalette desktop = frame_.palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        for (const QPalette::ColorRole role : {QPalette::WindowText, roles_.Background, roles_.Text})
+            desktop.setBrush(group, role, desktop.brush(group, role));
+    for (QScrollBar* const bar : widget_.findChildren<QScrollBar*>())
+        bar->setPalette(desktop);
     ShowLook();
 }
 

@@ -58,11 +58,18 @@ int EntryArea::WholeEntries() const
     return std::max(1, viewport()->height() / EntryHeight());
 }
 
+/// A single entry fills an area that is hardly higher, or lower, than it.
+int EntryArea::StepDown() const
+{
+    const int room = viewport()->height();
+    return 2 * room < 3 * EntryHeight() ? std::max(room, 1) : EntryHeight();
+}
+
 int EntryArea::EntryAt(QPoint position) const
 {
     if (!viewport()->rect().contains(position))
         return -1;
-    const int index = verticalScrollBar()->value() + position.y() / EntryHeight();
+    const int index = verticalScrollBar()->value() + position.y() / StepDown();
     return index < EntryCount() ? index : -1;
 }
 
@@ -120,13 +127,11 @@ void EntryArea::paintEvent(QPaintEvent* /*event*/)
     option.textElideMode = Qt::ElideRight;
     option.widget = this;
     const QStyle::State plain = option.state & QStyle::State_Enabled;
+    const int height = StepDown();
     int top = 0;
     for (int index = verticalScrollBar()->value(); index < EntryCount() && top < viewport()->height(); ++index) {
-        // A single entry that is higher than the area keeps its middle.
-        const int height = std::min(EntryHeight(), std::max(viewport()->height() - top, top == 0 ? 1 : EntryHeight()));
         option.rect = QRect(0, top, viewport()->width(), height);
         option.text = EntryText(index);
-        option.index = {};
         option.state = plain | QStyle::State_Active;
         option.state.setFlag(QStyle::State_Selected, IsEntrySelected(index));
         option.state.setFlag(QStyle::State_HasFocus, index == CurrentEntry());

@@ -31,6 +31,7 @@ protected:
 private:
     void FollowSize();
     [[nodiscard]] int WholeEntries() const;
+    [[nodiscard]] int StepDown() const; ///< From one entry to the next.
 
     int turned_ = 0; ///< Of the wheel, what is no whole notch yet, in eighths of a degree.
 };
