@@ -17,6 +17,7 @@ enum class Totals : std::uint8_t { None, Numbers, Dates, Texts };
 struct Column {
     const char* Name;
     Tessellon::FieldControlType Kind;
+    const char* Setting; ///< Of the editor: its choices, mask or caption.
     bool IsHidden;
     Tessellon::FieldControlAlign Alignment;
     int Length; ///< Of what may be typed; 0 for any.
@@ -29,6 +30,10 @@ struct Column {
 /// Numbers of columns in the sheet.
 inline constexpr int NumberCol = 1;
 inline constexpr int CustomerCol = 2;
+inline constexpr int CityCol = 3;
+inline constexpr int OrderedCol = 4;
+inline constexpr int AmountCol = 5;
+inline constexpr int CurrencyCol = 6;
 
 /// The data columns in the order of the query's fields, the sheet's column 1 first.
 std::span<const Column> Columns();

@@ -56,6 +56,14 @@ constexpr const char* Wishes[] = {
 
 } // namespace
 
+std::string CityNames()
+{
+    std::string names;
+    for (const City& city : Cities)
+        (names += names.empty() ? "" : "|") += city.Name;
+    return names;
+}
+
 Invention::Invention(std::int64_t count)
     : count_(count)
 {

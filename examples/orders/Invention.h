@@ -31,6 +31,9 @@ struct Order {
     std::string Notes; ///< Of one line or several; often empty.
 };
 
+/// The cities of all customers, in the order of their names, with a | between each two.
+std::string CityNames();
+
 /// Invents customers and their orders by the date, from one fixed seed. The last tenth is partly unpaid and unshipped.
 class Invention {
 public:

@@ -4,10 +4,12 @@
 #include "qt/SheetWidget.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTimer>
 
 #include <algorithm>
 #include <exception>
@@ -70,10 +72,19 @@ void OrdersWindow::EnterCell(int row, int col)
 {
     if (!isActiveWindow())
         activateWindow();
-    // A move to the cell that is current already would enter nothing; the first column has no editor of its own.
-    sheet_->Col(NumberCol);
-    sheet_->Row(std::min(row, sheet_->Rows() - 1));
-    sheet_->Col(col);
+    bool hasScrolled = false;
+    const auto listening = connect(sheet_, &SheetWidget::Scroll, this, [&] { hasScrolled = true; });
+    const auto enter = [&] {
+        // A move to the cell that is current already would enter nothing; the first column has no editor of its own.
+        sheet_->Col(NumberCol);
+        sheet_->Row(std::min(row, sheet_->Rows() - 1));
+        sheet_->Col(col);
+    };
+    enter();
+    // Where the cell was out of view, the scrolling has taken its editor down again.
+    if (hasScrolled)
+        enter();
+    disconnect(listening);
     sheet_->setFocus();
 }
 
@@ -205,6 +216,18 @@ void OrdersWindow::ChooseColors()
         ColorBands();
     }
     EnterCell(sheet_->Row(), sheet_->Col());
+}
+
+/// What the button of a row does. Enter on it is on the way through the row and goes on to the next.
+void OrdersWindow::CopySlip()
+{
+    const int row = sheet_->Row();
+    const auto cell = [&](int col) { return sheet_->TextMatrix(row, col); };
+    QGuiApplication::clipboard()->setText(tr("Order %1 of %2\n%3, %4\n%5 %6\n")
+                                              .arg(cell(NumberCol), cell(OrderedCol), cell(CustomerCol), cell(CityCol),
+                                                   cell(AmountCol), cell(CurrencyCol)));
+    // The move that follows would take a message down that is told now.
+    QTimer::singleShot(0, this, [this, row] { Tell(tr("The slip of row %L1 is on the clipboard.").arg(row)); });
 }
 
 void OrdersWindow::ExplainKeys()

@@ -6,9 +6,10 @@
 namespace Orders {
 
 /// The orders that the example shows, in the order of its columns:
-/// number, customer, city, date, amount, currency, paid, shipped, phone, notes, and the key, which is hidden.
+/// number, customer, city, date, amount, currency, paid, state, phone, notes, slip, and the key, which is hidden.
 inline constexpr const char* Query =
-    "SELECT id AS number, customer, city, ordered, amount, currency, paid, shipped, phone, notes, id "
+    "SELECT id AS number, customer, city, ordered, amount, currency, paid, "
+    "CASE WHEN shipped THEN 'Shipped' ELSE 'Open' END AS state, phone, notes, 'Copy' AS slip, id "
     "FROM orders ORDER BY id";
 
 inline constexpr std::int64_t UsualCount = 2'000;

@@ -69,6 +69,8 @@ OrdersWindow::OrdersWindow()
     setCentralWidget(middle);
     BuildMenus();
     BuildStatusBar();
+    connect(sheet_, &SheetWidget::ButtonClick, this, &OrdersWindow::CopySlip);
+    connect(sheet_, &SheetWidget::UseAdvanceToNextCell, this, [](bool& use) { use = true; });
     DeclareColumns(*sheet_);
     sheet_->AllowAddNew(true);
     ColorBands();

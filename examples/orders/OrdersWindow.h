@@ -64,6 +64,7 @@ private:
     void CloseFindBar();
     void FindNext();
     void ChooseColors();
+    void CopySlip();
     void ExplainKeys();
     bool Ask(const QString& title, const QString& question, const QString& details, const QString& yes);
     void Tell(const QString& message);

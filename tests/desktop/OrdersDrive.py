@@ -9,7 +9,7 @@ import unittest
 from desktop import Desktop
 from orders_program import PICTURES, PROGRAM, ProgramTest, cells_of, wait_for
 
-CUSTOMER, CITY, AMOUNT, CURRENCY, PAID, SHIPPED, PHONE, NOTES = 2, 3, 5, 6, 7, 8, 9, 10
+CUSTOMER, CITY, ORDERED, AMOUNT, CURRENCY, PAID, STATE, PHONE, NOTES, SLIP = range(2, 12)
 ROW_HEIGHT = 21
 
 
@@ -87,14 +87,14 @@ class OrdersDrive(ProgramTest):
         self.expected = {}
         with sqlite3.connect(database) as records:
             for row, record in enumerate(records.execute(
-                    "SELECT id, customer, city, ordered, amount, currency, paid, shipped, phone, notes, id FROM orders"
-                    " ORDER BY id"), 1):
+                    "SELECT id, customer, city, ordered, amount, currency, paid, iif(shipped, 'Shipped', 'Open'), phone,"
+                    " notes, 'Copy', id FROM orders ORDER BY id"), 1):
                 for column, value in enumerate(record, 1):
                     self.expected[row, column] = self.text_of(column, value)
 
     @staticmethod
     def text_of(column, value):
-        if column in (PAID, SHIPPED):
+        if column == PAID:
             return "True" if value else "False"
         if value is None:
             return ""
@@ -127,21 +127,32 @@ class OrdersDrive(ProgramTest):
         self.assertEqual(text, self.expected[row, CUSTOMER])
         self.types(row, CUSTOMER, "Ada ", "Ada " + text)
 
-        # Enter leads along the row, past the columns without an editor, and into the next.
+        # Enter leads along the row, through each kind of editor, and into the next.
         self.goes_to(row, CITY, "Return")
         self.desktop.key("ctrl+a")
-        self.types(row, CITY, "Bergen", "Bergen")
+        self.desktop.type("Bergen")
+        self.expected[row, CITY] = "Bergen"
+        self.goes_to(row, ORDERED, "Return")
+        before = self.orders.now()
+        self.desktop.key("Up")
+        date = self.expected[row, ORDERED]
+        self.expected[row, ORDERED] = f"{int(date[:4]) + 1}{date[4:]}"
+        self.orders.wait(f"EditorChange {row}, {ORDERED}: {self.expected[row, ORDERED]}", before)
         self.goes_to(row, AMOUNT, "Return")
         self.goes_to(row, CURRENCY, "Return")
+        self.desktop.type("sek")
+        self.expected[row, CURRENCY] = "SEK"
         self.goes_to(row, PAID, "Return")
         self.desktop.key("space")
         paid = "False" if self.expected[row, PAID] == "True" else "True"
         self.expected[row, PAID] = paid
-        self.goes_to(row, SHIPPED, "Return")
-        self.goes_to(row, PAID, "Left")
-        self.assertEqual(self.orders.entered(0), (row, PAID, paid))
-        for column in SHIPPED, PHONE, NOTES:
-            self.goes_to(row, column, "Return")
+        self.goes_to(row, STATE, "Return")
+        self.desktop.type("r")
+        self.expected[row, STATE] = "Returned"
+        self.goes_to(row, PHONE, "Return")
+        self.goes_to(row, NOTES, "Return")
+        self.desktop.save_picture(PICTURES / "orders-notes.png")
+        self.goes_to(row, SLIP, "Return")
         self.goes_to(row + 1, CUSTOMER, "Return")
 
         # Esc brings back what was there; F2 enters again.
@@ -197,7 +208,7 @@ class OrdersDrive(ProgramTest):
         wait_for("the end of the program", lambda: self.orders.program.poll() is not None)
         self.assertEqual(self.orders.program.returncode, 0)
         cells = cells_of(self.orders.log)
-        self.assertEqual(len(cells), 2000 * 11)
+        self.assertEqual(len(cells), 2000 * 12)
         self.assertEqual({place: text for place, text in cells.items() if text != self.expected[place]}, {})
 
 

@@ -59,7 +59,7 @@ class OrdersOddTexts(ProgramTest):
                     if row != 4:
                         self.assertEqual(cells[row, 2], text)
                 self.assertEqual(cells[1, 4], "2024-02-29")
-                self.assertEqual((cells[1, 7], cells[1, 8]), ("True", "False"))
+                self.assertEqual((cells[1, 7], cells[1, 8]), ("True", "Open"))
 
     def test_picture_has_the_size_of_the_window(self):
         cells, size, printed = self.cells_and_picture("--rows", "50")

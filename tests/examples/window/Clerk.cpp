@@ -40,7 +40,9 @@ void Clerk::Open(int count)
 void Clerk::GoTo(int row, int col)
 {
     Sheet().Row(row);
-    Sheet().Col(col);
+    // The second time it is in view, and stays where it is.
+    for (const int there : {col, 1, col})
+        Sheet().Col(there);
 }
 
 void Clerk::Press(Qt::Key key, Qt::KeyboardModifiers modifiers)

@@ -15,19 +15,18 @@ namespace {
 
 constexpr int number = 1;
 constexpr int customer = 2;
-constexpr int city = 3;
 constexpr int ordered = 4;
 constexpr int amount = 5;
 constexpr int paid = 7;
 
 class FindInColumn : public Clerk {
 protected:
-    void Fill(const QStringList& cities)
+    void Fill(const QStringList& names)
     {
-        Open(static_cast<int>(cities.size()));
-        for (int row = 1; row <= cities.size(); ++row)
-            Sheet().TextMatrix(row, city, cities[row - 1]);
-        GoTo(1, city);
+        Open(static_cast<int>(names.size()));
+        for (int row = 1; row <= names.size(); ++row)
+            Sheet().TextMatrix(row, customer, names[row - 1]);
+        GoTo(1, customer);
         Press(Qt::Key_F, Qt::ControlModifier);
     }
     int Find(const QString& text)
@@ -67,7 +66,7 @@ TEST_F(FindInColumn, NothingFound_IsSaidAndMovesNothing)
     Fill({"Porto", "Lyon"});
     EXPECT_EQ(Find("lyon"), 2);
     EXPECT_EQ(Find("Bergen %2"), 2);
-    EXPECT_EQ(Message(), "“Bergen %2” is not in City.");
+    EXPECT_EQ(Message(), "“Bergen %2” is not in Customer.");
     EXPECT_TRUE(IsInFindBar());
     EXPECT_EQ(Find("  "), 2);
     EXPECT_EQ(Message(), "Type what is to be found.");
@@ -78,10 +77,10 @@ TEST_F(FindInColumn, Esc_GoesToTheEditorOfTheCellThatWasFound)
     Fill({"Porto", "Lyon", "Bergen"});
     Find("berg");
     Press(Qt::Key_Escape);
-    EXPECT_EQ(Edited(), "3, 3: Bergen");
+    EXPECT_EQ(Edited(), "3, 2: Bergen");
     EXPECT_FALSE(Window().findChild<FindBar*>()->isVisible());
     Type(QStringLiteral("X"));
-    EXPECT_EQ(Sheet().TextMatrix(3, city), QStringLiteral("XBergen"));
+    EXPECT_EQ(Sheet().TextMatrix(3, customer), QStringLiteral("XBergen"));
 }
 
 TEST_F(FindInColumn, F3_GoesOnFromTheSheet)
@@ -90,15 +89,32 @@ TEST_F(FindInColumn, F3_GoesOnFromTheSheet)
     Find("port");
     Press(Qt::Key_Escape);
     Press(Qt::Key_F3);
-    EXPECT_EQ(Edited(), "3, 3: Portland");
+    EXPECT_EQ(Edited(), "3, 2: Portland");
     Press(Qt::Key_F3);
-    EXPECT_EQ(Edited(), "1, 3: Porto");
+    EXPECT_EQ(Edited(), "1, 2: Porto");
+}
+
+TEST_F(FindInColumn, RowOutOfView_IsEnteredToo)
+{
+    Open(300);
+    Sheet().TextMatrix(150, customer, QStringLiteral("Zoe"));
+    Sheet().TextMatrix(290, customer, QStringLiteral("Zoe"));
+    GoTo(1, customer);
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type(QStringLiteral("Zoe"));
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Edited(), "150, 2: Zoe");
+    Press(Qt::Key_F3);
+    EXPECT_EQ(Edited(), "290, 2: Zoe");
+    Press(Qt::Key_F3);
+    EXPECT_EQ(Edited(), "150, 2: Zoe");
 }
 
 TEST_F(FindInColumn, F3_WithNothingToFind_OpensTheField)
 {
     Open();
-    GoTo(1, city);
+    GoTo(1, customer);
     Press(Qt::Key_F3);
     EXPECT_TRUE(IsInFindBar());
 }
@@ -184,7 +200,7 @@ protected:
 TEST_F(BandsOfRows, AreChosenWithTheKeys_AndGoBackToTheDesktops)
 {
     Open();
-    GoTo(5, city);
+    GoTo(5, customer);
     const std::string before = Edited();
     const QColor odd = ColorOf(3);
     const QColor even = ColorOf(4);
