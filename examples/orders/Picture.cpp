@@ -33,10 +33,10 @@ void Type(const QString& text)
         Press(character.toUpper().unicode(), QString(character));
 }
 
-/// Until the window is in front and the panel has shown what came.
+/// Until the window is in front, the panel has shown what came and the column is summed up.
 void Settle(const OrdersWindow& window)
 {
-    constexpr int enough = 100;
+    constexpr int enough = 300;
     constexpr int most = 5'000;
     constexpr int step = 10;
     QElapsedTimer timer;

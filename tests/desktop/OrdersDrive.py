@@ -170,7 +170,9 @@ class OrdersDrive(ProgramTest):
         self.desktop.key("End")
         self.types(row + 2, CUSTOMER, "!", self.expected[row + 2, CUSTOMER] + "!")
         self.goes_to(row + 2, CITY, "Right")
-        self.goes_to(row + 2, CUSTOMER, "Left")
+        self.goes_to(row + 2, ORDERED, "Return")
+        self.goes_to(row + 2, AMOUNT, "Return")
+        self.goes_to(row + 2, ORDERED, "Left")
 
         # The wheel takes the editor down and the rows three at a time along; the click finds the row that is there now.
         left, top, _, _ = self.desktop.geometry(self.window)
