@@ -2,6 +2,7 @@
 
 #include "orders/EventLog.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListView>
@@ -45,14 +46,14 @@ private:
 
 EventsPanel::EventsPanel(EventLog& log, QWidget* parent)
     : QWidget(parent)
+    , words_(new QLineEdit(this))
     , list_(new QListView(this))
 {
     auto* const filter = new WordFilter(this);
     filter->setSourceModel(&log);
 
-    auto* const words = new QLineEdit(this);
-    words->setPlaceholderText(tr("Filter events"));
-    words->setClearButtonEnabled(true);
+    words_->setPlaceholderText(tr("Filter events"));
+    words_->setClearButtonEnabled(true);
     auto* const clear = new QPushButton(tr("Clear"), this);
     clear->setAutoDefault(false);
 
@@ -64,14 +65,15 @@ EventsPanel::EventsPanel(EventLog& log, QWidget* parent)
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto* const top = new QHBoxLayout;
-    top->addWidget(words);
+    top->addWidget(words_);
     top->addWidget(clear);
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->addLayout(top);
     all->addWidget(list_);
 
-    connect(words, &QLineEdit::textChanged, this, [this, filter](const QString& text) {
+    FadeHint();
+    connect(words_, &QLineEdit::textChanged, this, [this, filter](const QString& text) {
         filter->Use(text);
         list_->scrollToBottom();
     });
@@ -80,6 +82,23 @@ EventsPanel::EventsPanel(EventLog& log, QWidget* parent)
     // Only the user's scrolling changes the value; new lines change the range.
     connect(list_->verticalScrollBar(), &QScrollBar::valueChanged, this,
             [this](int value) { isAtEnd_ = value >= list_->verticalScrollBar()->maximum(); });
+}
+
+/// Some dark desktops leave the hint in the colour of a light one.
+void EventsPanel::FadeHint()
+{
+    QColor faint = palette().color(QPalette::Text);
+    faint.setAlphaF(0.5F);
+    QPalette colors;
+    colors.setColor(QPalette::PlaceholderText, faint);
+    words_->setPalette(colors);
+}
+
+void EventsPanel::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        FadeHint();
+    QWidget::changeEvent(event);
 }
 
 QSize EventsPanel::sizeHint() const

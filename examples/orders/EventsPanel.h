@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QLineEdit;
 class QListView;
 
 namespace Orders {
@@ -18,9 +19,14 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void FollowLatest();
+    void FadeHint();
 
+    QLineEdit* words_;
     QListView* list_;
     bool isAtEnd_ = true;
 };

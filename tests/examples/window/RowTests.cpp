@@ -70,6 +70,20 @@ TEST_F(Clerk, RefusedValidation_KeepsTheUserInTheCell)
     EXPECT_EQ(Orders(), 40);
 }
 
+TEST_F(Clerk, DayThatIsHalfTyped_IsTakenAheadOfACommand)
+{
+    constexpr int ordered = 4;
+    Open();
+    Sheet().TextMatrix(5, ordered, QStringLiteral("2024-03-15"));
+    GoTo(5, ordered);
+    Press(Qt::Key_End);
+    Type(QStringLiteral("2"));
+    EXPECT_EQ(Sheet().TextMatrix(5, ordered), QStringLiteral("2024-03-15"));
+    Press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Sheet().TextMatrix(5, ordered), QStringLiteral("2024-03-02"));
+    EXPECT_EQ(Edited(), Edit(6, customer, {}));
+}
+
 TEST_F(Clerk, Delete_AsksAndIsCancelledByEscAndByEnter)
 {
     Open();
