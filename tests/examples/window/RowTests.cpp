@@ -1,5 +1,7 @@
 #include "examples/window/Clerk.h"
 
+#include "orders/EventsPanel.h"
+
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -236,6 +238,20 @@ TEST_F(Clerk, Database_IsNeverWritten)
     Press(Qt::Key_F5);
     EXPECT_EQ(Boxes, 2);
     EXPECT_FALSE(Window().isWindowModified());
+}
+
+TEST_F(Clerk, PanelOfEvents_GoesAndComes_WhileTheEditorKeepsTheFocus)
+{
+    Open();
+    GoTo(5, phone);
+    const std::string before = Edited();
+    const auto* const panel = Window().findChild<EventsPanel*>();
+    Press(Qt::Key_F9);
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_EQ(Edited(), before);
+    Press(Qt::Key_F9);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(Edited(), before);
 }
 
 TEST_F(Clerk, EachCommand_HasAKeyOfItsOwn_WhichTheMenusAndTheHelpShow)
