@@ -220,6 +220,8 @@ def main():
     chosen, places = [], {}
     for at in options.at or []:
         file, _, line = at.partition(":")
+        if not (ROOT / file).is_file() or not re.fullmatch(rf"src/({'|'.join(FOLDERS)})/\S+", file):
+            parser.error(f"no source of the logic: {file}")
         chosen += [item for item in breaks(ROOT, file) if not line or item.line == int(line)]
     for folder in [] if options.at else options.folders or FOLDERS:
         places[folder], items = choose(ROOT, folder, options.number, options.seed)
