@@ -6,6 +6,7 @@
 #include "qt/GridView.h"
 #include "qt/KeyInput.h"
 #include "qt/MouseOver.h"
+#include "qt/Texts.h"
 
 #include <QPainter>
 #include <QScrollBar>
@@ -83,6 +84,8 @@ void EditorWidget::ShowVisible()
         return;
     }
     widget_.setGeometry(frame_.PixelsOf(control_->Place()));
+    GridEngine& grid = frame_.Platform()->TheGrid();
+    widget_.setAccessibleName(OwnText(grid.TextOf({0, grid.Col()})));
     ShowContent();
     widget_.show();
 }

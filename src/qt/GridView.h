@@ -20,6 +20,9 @@ class GridView : public QWidget {
 public:
     explicit GridView(SheetFrame& frame);
 
+    [[nodiscard]] SheetFrame& Frame() const { return frame_; }
+    [[nodiscard]] std::optional<GridCell> CellAt(const QPoint& place) const;
+    void ClickCell(GridCell cell); ///< As the user's left button would, wherever the cell is.
     /// All logical pixels that a part of the grid touches.
     [[nodiscard]] QRect PixelsAround(const GridRectangle& part) const;
     void TurnWheel(QWheelEvent& event); ///< Over the grid or anything that lies on it.

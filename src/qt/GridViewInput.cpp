@@ -35,6 +35,24 @@ GridMouse GridView::MouseOf(const QMouseEvent& event, std::int16_t button) const
             static_cast<float>(event.position().y() * pixel)};
 }
 
+std::optional<GridCell> GridView::CellAt(const QPoint& place) const
+{
+    const float pixel = frame_.TheMetrics().TwipsAPixel();
+    return frame_.Platform()->TheGrid().CellAt(static_cast<float>(place.x()) * pixel,
+                                               static_cast<float>(place.y()) * pixel);
+}
+
+void GridView::ClickCell(GridCell cell)
+{
+    if (!frame_.Echo().BeforePress())
+        return;
+    frame_.Do([&] {
+        GridEngine& grid = frame_.Platform()->TheGrid();
+        if (grid.PressCell(cell))
+            grid.ReleaseHere();
+    });
+}
+
 void GridView::Press(const QMouseEvent& event, bool isSecond)
 {
     const std::int16_t button = ButtonOf(event.button());

@@ -2,6 +2,7 @@
 
 #include "qt/EditorWidget.h"
 #include "qt/FocusEcho.h"
+#include "qt/GridAccessible.h"
 #include "qt/GridView.h"
 #include "qt/KeyInput.h"
 #include "qt/QtToolkit.h"
@@ -49,7 +50,9 @@ SheetFrame::SheetFrame(Conduct conduct, Locale locale, QWidget* parent)
     , view_(new GridView(*this))
     , bars_(std::make_unique<GridScrollBars>(*this))
     , echo_(std::make_unique<FocusEcho>(*this))
+    , readers_(std::make_unique<AccessibleEcho>(*view_))
 {
+    GridAccessible::Install();
     isWhole_ = true;
     setFocusPolicy(Qt::TabFocus);
     if (conduct_ == Conduct::Desktop)
@@ -141,6 +144,7 @@ void SheetFrame::Invalidate(const GridRectangle& part)
     constexpr int mostParts = 64;
     if (!isWhole_ || !view_->isVisible())
         return;
+    readers_->GridChanged();
     const QRect pixels = view_->PixelsAround(part);
     view_->update(pixels);
     due_ += pixels;

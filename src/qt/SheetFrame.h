@@ -5,6 +5,7 @@
 #include "qt/GridScrollBars.h"
 #include "qt/Metrics.h"
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QRegion>
@@ -17,6 +18,7 @@
 
 namespace Tessellon {
 
+class AccessibleEcho;
 class EditorWidget;
 class FocusEcho;
 class GridView;
@@ -92,6 +94,7 @@ public:
     /// Hears a message instead of a box; the box is then closed at once.
     std::function<void(const QString&)> OnMessage;
     std::function<void()> OnBell; ///< Hears the bell instead of the user.
+    std::function<void(QAccessibleEvent&)> OnReader; ///< Hears what is told of the grid instead of screen readers.
 
 signals:
     void UnhandledFailure(int number, const QString& source, const QString& description);
@@ -119,6 +122,7 @@ private:
     std::unordered_map<const InputControl*, EditorWidget*> editors_; ///< Of those that were shown.
     std::unique_ptr<GridScrollBars> bars_;
     std::unique_ptr<FocusEcho> echo_;
+    std::unique_ptr<AccessibleEcho> readers_;
     int activities_ = 0;
     bool isMessageUp_ = false;
     bool isWaiting_ = false; ///< The hourglass is shown.
