@@ -13,7 +13,7 @@ void TessellonSheet::Check1_Click()
 {
     Armed(u"Check1_Click", [&] {
         if (RowCount > 0 && ColCount > 0 && CurrentColumn().cdControlType == fcCheckBox)
-            WriteCurrentCell(CheckBoxValue());
+            CellWriteBack(CheckBoxValue());
     });
 }
 
@@ -25,10 +25,10 @@ void TessellonSheet::Check1_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift)
         switch (action) {
         case KeyAction::Nothing: return false;
         case KeyAction::Restore:
-            WriteCurrentCell(Trim(Check1->Tag()));
+            CellWriteBack(Trim(Check1->Tag()));
             StandDown(*Check1);
             return true;
-        case KeyAction::WriteNext: WriteCurrentCell(CheckBoxValue()); [[fallthrough]];
+        case KeyAction::WriteNext: CellWriteBack(CheckBoxValue()); [[fallthrough]];
         default: LeaveBy(*Check1, action); return true;
         }
     });
@@ -73,7 +73,7 @@ void TessellonSheet::Combo1_Click(std::int16_t Index)
     Armed(u"Combo1_Click", [&] {
         if (CurrentColumn().cdControlIndex == Index && RowCount > 0 && ColCount > 0 &&
             CurrentColumn().cdControlType == fcComboBox)
-            WriteCurrentCell(Trim(Combo1->Item(Index)->Text()));
+            CellWriteBack(Trim(Combo1->Item(Index)->Text()));
     });
 }
 
@@ -90,12 +90,12 @@ void TessellonSheet::Combo1_KeyDown(std::int16_t Index, std::int16_t& KeyCode, s
         switch (action) {
         case KeyAction::Restore: {
             const auto box = Combo1->Item(Index);
-            WriteCurrentCell(Trim(box->Tag()));
+            CellWriteBack(Trim(box->Tag()));
             StandDown(*box);
             HideEditorRequest = true;
             return true;
         }
-        case KeyAction::WriteText: WriteCurrentCell(Trim(Combo1->Item(Index)->Text())); return true;
+        case KeyAction::WriteText: CellWriteBack(Trim(Combo1->Item(Index)->Text())); return true;
         case KeyAction::PreviousOn2nd:
         case KeyAction::NextOn2nd:
             if (ComboPreviousIndex % 2 != 0)
@@ -122,7 +122,7 @@ void TessellonSheet::WriteListSelection(std::int16_t Index)
     const std::int32_t count = list->ListCount();
     for (std::int32_t i = 0; i < count; ++i) {
         if (list->Selected(i)) {
-            WriteCurrentCell(Trim(list->List(i)));
+            CellWriteBack(Trim(list->List(i)));
             return;
         }
     }

@@ -38,7 +38,7 @@ void TessellonSheet::Command1_KeyDown(std::int16_t Index, std::int16_t& KeyCode,
         case KeyAction::Restore: {
             const auto button = Command1->Item(Index);
             if (RowCount > 0)
-                WriteCurrentCell(Trim(button->Tag()));
+                CellWriteBack(Trim(button->Tag()));
             StandDown(*button);
             return true;
         }

@@ -6,7 +6,7 @@ namespace Tessellon {
 
 void TessellonSheet::WriteDate(const Value& date)
 {
-    WriteCurrentCell(RunTime->Format(date, DateFormatText));
+    CellWriteBack(RunTime->Format(date, DateFormatText));
 }
 
 void TessellonSheet::DTPicker1_Change()

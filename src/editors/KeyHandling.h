@@ -46,7 +46,7 @@ bool TessellonSheet::LeaveAtCaret(KeyAction action, Box& box)
 inline void TessellonSheet::Restore(Editor& editor)
 {
     if (RowCount > 0)
-        WriteCurrentCell(Trim(editor.Tag()));
+        CellWriteBack(Trim(editor.Tag()));
     StandDown(editor);
     HideEditorRequest = true;
 }

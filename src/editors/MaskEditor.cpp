@@ -27,7 +27,7 @@ void TessellonSheet::WriteMaskedCell(MaskEdBox& box)
 {
     const std::u16string shown(Trim(box.FormattedText()));
     const bool untouched = !MaskBuffer.empty() && CurrentColumn().cdUseMask && MaskBuffer == shown;
-    WriteCurrentCell(untouched ? std::u16string_view() : shown);
+    CellWriteBack(untouched ? std::u16string_view() : shown);
 }
 
 bool TessellonSheet::IsInstanceOfCurrentColumn(std::int16_t Index, FieldControlType type)

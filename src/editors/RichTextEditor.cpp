@@ -8,7 +8,7 @@ void TessellonSheet::RichTextBox1_Change()
 {
     Armed(u"RichTextBox1_Change", [&] {
         if (RowCount > 0 && ColCount > 0 && CurrentColumn().cdControlType == fcRichTextBox)
-            WriteCurrentCell(Trim(RichTextBox1->Text()));
+            CellWriteBack(Trim(RichTextBox1->Text()));
     });
     RaiseEvent(EditorChange);
 }

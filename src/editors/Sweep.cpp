@@ -103,7 +103,7 @@ void TessellonSheet::SetGridFocus(std::int32_t Row, std::int32_t Col)
     });
 }
 
-void TessellonSheet::WriteCurrentCell(std::u16string_view text)
+void TessellonSheet::CellWriteBack(std::u16string_view text)
 {
     MSFlexGrid1->TextMatrix(CurrentRow, CurrentCol, text);
 }

@@ -9,7 +9,7 @@ void TessellonSheet::Text1_Change()
 {
     Armed(u"Text1_Change", [&] {
         if (RowCount > 0 && ColCount > 0 && CurrentColumn().cdControlType == fcTextBox)
-            WriteCurrentCell(Trim(Text1->Text()));
+            CellWriteBack(Trim(Text1->Text()));
     });
     RaiseEvent(EditorChange);
 }

@@ -61,7 +61,7 @@ void TessellonSheet::LoadCheckBox()
     case alignRight: ActiveAs<CheckBox>(checkBoxKey)->Alignment(1); break;
     default: break;
     }
-    WriteCurrentCell(kept);
+    CellWriteBack(kept);
 }
 
 void TessellonSheet::LoadTextBox()
@@ -144,7 +144,7 @@ void TessellonSheet::LoadMaskedEditor()
     const std::int32_t color = MSFlexGrid1->BackColor();
     box()->BackColor(color);
     box()->SelStart(0);
-    WriteCurrentCell(kept);
+    CellWriteBack(kept);
 }
 
 } // namespace Tessellon

@@ -253,7 +253,7 @@ private:
     void ResetControlState();
     void SetGridFocus(std::int32_t Row, std::int32_t Col);
     void StandDown(Editor& editor);
-    void WriteCurrentCell(std::u16string_view text);
+    void CellWriteBack(std::u16string_view text);
     void FormatStr(std::u16string& Text, std::u16string Mask);
 
     // The cell advance.
