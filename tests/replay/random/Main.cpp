@@ -18,6 +18,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -133,6 +134,7 @@ bool ReportMissing(const char* what, const std::set<std::string>& all, const std
 bool PlaySeeds(const std::string& folder, std::uint32_t first, std::uint32_t count)
 {
     constexpr int mostReports = 10;
+    std::filesystem::create_directories(folder);
     int differences = 0;
     UsedWords used;
     std::set<std::string> events;
@@ -165,6 +167,10 @@ bool PlaySeeds(const std::string& folder, std::uint32_t first, std::uint32_t cou
 bool PlayFile(const std::string& name)
 {
     std::ifstream file(name, std::ios::binary);
+    if (!file) {
+        std::printf("%s cannot be read\n", name.c_str());
+        return false;
+    }
     const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     return Compare(name, text).has_value();
 }
