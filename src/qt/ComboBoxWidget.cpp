@@ -104,9 +104,10 @@ bool ComboBoxWidget::TakeKey(std::int16_t keyCode, std::int16_t shift)
     return LineEditWidget::TakeKey(keyCode, shift);
 }
 
+/// The key or press may have led elsewhere before its turn comes here.
 void ComboBoxWidget::OpenList()
 {
-    if (!combo_.CanHaveFocus() || !isVisible())
+    if (!combo_.HasFocus() || !combo_.CanHaveFocus())
         return;
     list_->Open(Button());
     update();

@@ -252,6 +252,11 @@ bool SheetFrame::event(QEvent* event)
         }
         break;
     case QEvent::ScreenChangeInternal: ScreenChanged(); break;
+    case QEvent::EnabledChange:
+        // Qt takes its focus from what is disabled, also where the sheet kept its own.
+        if (isEnabled())
+            echo_->Follow();
+        break;
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
         for (const auto& [control, editor] : editors_)

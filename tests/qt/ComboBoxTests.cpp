@@ -344,8 +344,9 @@ TEST(ComboInADialog, EnterEscAndTabWithTheListOpen_AreNotTheDialogs)
     sheet->Add(0, 2);
     const auto focusName = [&] { return sheet->findChild<SheetFrame*>()->Platform()->FocusName(); };
     QWindow* const window = dialog.windowHandle();
-    const auto isOpen = [&] { return sheet->findChild<ComboList*>()->isVisible(); };
     ASSERT_EQ(focusName(), u"Combo1(0)");
+    const auto& combo = dynamic_cast<ComboBoxWidget&>(*QApplication::focusWidget());
+    const auto isOpen = [&] { return combo.List().isVisible(); };
     QTest::keyClick(window, Qt::Key_F4);
     ASSERT_TRUE(isOpen());
     QTest::keyClick(window, Qt::Key_Escape);
