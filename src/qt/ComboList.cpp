@@ -158,6 +158,9 @@ bool ComboList::eventFilter(QObject* watched, QEvent* event)
             hide();
         break;
     case QEvent::Move:
+        if (watched->isWidgetType() && static_cast<QWidget*>(watched)->isAncestorOf(&combo_))
+            hide();
+        break;
     case QEvent::Resize:
     case QEvent::WindowStateChange:
     case QEvent::WindowDeactivate:

@@ -25,6 +25,10 @@ EditorWidget::EditorWidget(SheetFrame& frame, ControlCore& control, QWidget& wid
     widget_.hide();
     widget_.setFocusPolicy(Qt::NoFocus);
     widget_.setAutoFillBackground(true);
+    // Moves are told without a button down, too.
+    widget_.setMouseTracking(true);
+    if (auto* const area = qobject_cast<QAbstractScrollArea*>(&widget_))
+        area->viewport()->setMouseTracking(true);
 }
 
 bool EditorWidget::TakeKey(std::int16_t /*keyCode*/, std::int16_t /*shift*/)
@@ -156,6 +160,8 @@ EventArguments EditorWidget::MouseOf(const QMouseEvent& event) const
 
 void EditorWidget::Press(QMouseEvent& event, bool isSecond)
 {
+    if (ButtonOf(event.button()) == 0)
+        return;
     bool isTaken = false;
     if (frame_.Echo().BeforePress())
         frame_.Do([&] { isTaken = control_->PressMouse(MouseOf(event)); });

@@ -190,6 +190,15 @@ TEST_F(ComboOnTheDesktop, AnotherWindowInFront_ClosesTheList)
     EXPECT_EQ(FocusName(), u"");
 }
 
+TEST_F(ComboOnTheDesktop, WindowThatMoves_ClosesTheList)
+{
+    WindowKey(Qt::Key_F4);
+    ASSERT_TRUE(IsOpen());
+    Window->move(Window->pos() + QPoint(40, 30));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !IsOpen(); }, 2000));
+    EXPECT_EQ(FocusName(), u"Combo1(0)");
+}
+
 TEST_F(ComboOnTheDesktop, WithoutEntries_OpensNothing)
 {
     Sheet->CreateColumnDataType(1, QStringLiteral("Colour"), fcComboBox, {}, false, fcLeft, 0, faNil, false);

@@ -1,7 +1,11 @@
 #include "ChoiceForm.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QToolTip>
+
+#include <cmath>
 
 namespace Tessellon {
 
@@ -88,6 +92,18 @@ TEST_F(ListOnTheDesktop, Click_ChoosesBehindTheRelease)
     EXPECT_EQ(Heard, QStringList({"MouseDown", "MouseDown"}));
 }
 
+TEST_F(ListOnTheDesktop, Moves_AreToldAsPresses_FromTheCornerOfTheList)
+{
+    QList<float> across;
+    QObject::connect(Sheet, &SheetWidget::MouseDown, [&](short&, short&, float& x) { across.append(x); });
+    const QPointF at(10, 5);
+    QMouseEvent move(QEvent::MouseMove, at, ListBox().viewport()->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(ListBox().viewport(), &move);
+    const float twipsAPixel = Frame().TheMetrics().TwipsAPixel();
+    EXPECT_EQ(across, QList<float>({(10 + static_cast<float>(ListBox().viewport()->x())) * twipsAPixel}));
+}
+
 TEST_F(ListOnTheDesktop, PressReleasedOutside_ChoosesNothing)
 {
     QTest::mousePress(ListBox().viewport(), Qt::LeftButton, {}, Middle());
@@ -166,10 +182,60 @@ TEST_F(ButtonOnTheDesktop, AmpersandOfItsCaption_IsNoShortcut)
     EXPECT_TRUE(Clicked.isEmpty());
 }
 
+TEST_F(ButtonOnTheDesktop, MouseThatOnlyMovesOverIt_IsTold_WithoutAButton)
+{
+    QList<int> buttons;
+    QObject::connect(Sheet, &SheetWidget::MouseMove, [&](short& Button) { buttons.append(Button); });
+    const QPointF at(10, 5);
+    QMouseEvent move(QEvent::MouseMove, at, Button().mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&Button(), &move);
+    EXPECT_EQ(buttons, QList<int>({0}));
+    EXPECT_FALSE(Button().isDown());
+}
+
 TEST_F(ButtonOnTheDesktop, Wheel_ScrollsTheGrid)
 {
     Turn(Button(), -120);
     EXPECT_EQ(Frame().Platform()->TheGrid().TopRow(), 4);
+}
+
+TEST_F(ChoiceForm, ToolTipOfTheSheet_IsShownOverAnyEditor)
+{
+    Sheet->setToolTip(QStringLiteral("Orders"));
+    for (int col = 1; col <= 4; ++col) {
+        WindowClick({2, col});
+        QWidget& editor = *QApplication::focusWidget();
+        auto* const area = qobject_cast<QAbstractScrollArea*>(&editor);
+        QWidget& pointed = area != nullptr ? *area->viewport() : editor;
+        QHelpEvent event(QEvent::ToolTip, QPoint(3, 3), pointed.mapToGlobal(QPoint(3, 3)));
+        QCoreApplication::sendEvent(&pointed, &event);
+        EXPECT_EQ(QToolTip::text(), QStringLiteral("Orders")) << col;
+        QToolTip::hideText();
+        ASSERT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 2000));
+    }
+}
+
+TEST_F(ChoiceForm, Editors_CanBeRead_OnALightAndADarkDesktop_AlsoDisabled)
+{
+    const auto brightness = [](const QColor& color) {
+        return 0.2126 * color.redF() + 0.7152 * color.greenF() + 0.0722 * color.blueF();
+    };
+    const QPalette light = Window->palette();
+    for (const QPalette& desktop : {light, QPalette(QColor(60, 60, 63), QColor(45, 45, 48))}) {
+        Window->setPalette(desktop);
+        for (int col = 1; col <= 4; ++col) {
+            WindowClick({2, col});
+            const QWidget& editor = *QApplication::focusWidget();
+            const bool isButton = &editor == static_cast<const QWidget*>(View().findChild<QPushButton*>());
+            const QPalette::ColorRole text = isButton ? QPalette::ButtonText : QPalette::Text;
+            const QPalette::ColorRole background = isButton ? QPalette::Button : QPalette::Base;
+            for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Disabled})
+                EXPECT_GT(std::abs(brightness(editor.palette().color(group, text)) -
+                                   brightness(editor.palette().color(group, background))),
+                          0.3)
+                    << col;
+        }
+    }
 }
 
 TEST_F(ChoiceForm, KeysThatADisabledGridDoesNotHear_AreTheWindows)
