@@ -215,6 +215,17 @@ TEST_F(ChoiceForm, ToolTipOfTheSheet_IsShownOverAnyEditor)
     }
 }
 
+TEST_F(ChoiceForm, SheetDisabledAndEnabledAgain_HasTheFocusThatItWasNotLeftBy)
+{
+    QObject::connect(Sheet, &SheetWidget::ExitFocus, [](bool& Cancel) { Cancel = true; });
+    ASSERT_EQ(QApplication::focusWidget(), &Combo());
+    Sheet->setEnabled(false);
+    EXPECT_EQ(FocusName(), u"Combo1(0)");
+    Sheet->setEnabled(true);
+    EXPECT_EQ(FocusName(), u"Combo1(0)");
+    EXPECT_EQ(QApplication::focusWidget(), &Combo());
+}
+
 TEST_F(ChoiceForm, Editors_CanBeRead_OnALightAndADarkDesktop_AlsoDisabled)
 {
     const auto brightness = [](const QColor& color) {
