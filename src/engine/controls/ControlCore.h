@@ -24,7 +24,7 @@ enum class Aspect : std::uint8_t {
     Content, ///< Text, value, selection.
     Caret,
     Items,
-    Calendar, ///< The picker's calendar is to open or close.
+    Calendar, ///< The picker's open calendar is closed.
     Gone, ///< The control was unloaded, and is not shown again.
 };
 

@@ -42,9 +42,9 @@ void MaskEdBoxControl::SelStart(std::int32_t position)
 }
 
 /// The key that made a handler take the box down does nothing more in it.
-void MaskEdBoxControl::KeyMeans(std::int16_t keyCode, std::int16_t /*shift*/, bool takenDown)
+void MaskEdBoxControl::KeyMeans(std::int16_t keyCode, std::int16_t shift, bool takenDown)
 {
-    if (takenDown)
+    if (takenDown || surroundings_.KeyInWidget(*this, keyCode, shift))
         return;
     switch (keyCode) {
     case KeyCode::Left: state_.Left(); break;
@@ -60,6 +60,8 @@ void MaskEdBoxControl::KeyMeans(std::int16_t keyCode, std::int16_t /*shift*/, bo
 
 void MaskEdBoxControl::TakeUp(char16_t character, std::int16_t /*shift*/)
 {
+    if (surroundings_.CharacterInWidget(*this, character))
+        return;
     if (state_.Type(character) == MaskTyping::Refused)
         surroundings_.Bell();
     Show(Aspect::Content);

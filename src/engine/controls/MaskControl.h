@@ -30,6 +30,9 @@ public:
     [[nodiscard]] const MaskState& State() const { return state_; }
     [[nodiscard]] std::u16string ShownText() const override { return std::u16string(state_.ShownText()); }
 
+    /// For a real widget with a selection of its own, which shows by itself what comes of its editing.
+    MaskState& Editing() { return state_; }
+
     void KeyMeans(std::int16_t keyCode, std::int16_t shift, bool takenDown) override;
     void TakeUp(char16_t character, std::int16_t shift) override;
 

@@ -114,11 +114,12 @@ void PickerControl::Take(const DateResult& result)
 
 void PickerControl::TakePending(const Stroke* stroke)
 {
-    if (fields_.Pending().empty())
-        return;
-    if (stroke != nullptr && stroke->HasCharacter && fields_.Gathers(stroke->Character))
-        return;
-    Take(fields_.TakePending());
+    const bool isGathered = stroke != nullptr && stroke->HasCharacter && fields_.Gathers(stroke->Character);
+    if (!fields_.Pending().empty() && !isGathered)
+        Take(fields_.TakePending());
+    // Without a key he turns to something else.
+    if (stroke == nullptr)
+        CloseCalendar();
 }
 
 void PickerControl::HandToCallback(std::int16_t keyCode, std::int16_t shift)
@@ -144,7 +145,7 @@ void PickerControl::KeyMeans(std::int16_t keyCode, std::int16_t shift, bool take
         return;
     const bool alt = (shift & Modifier::Alt) != 0;
     if (keyCode == (alt ? KeyCode::Down : KeyCode::F4)) {
-        Show(Aspect::Calendar);
+        surroundings_.KeyInWidget(*this, keyCode, shift);
         return;
     }
     if (calendarOpen_) {

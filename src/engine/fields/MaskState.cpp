@@ -1,5 +1,6 @@
 #include "engine/fields/MaskState.h"
 
+#include "engine/fields/PastedText.h"
 #include "engine/fields/UnitPairs.h"
 #include "engine/runtime/RunTimeFunctions.h"
 #include "platform/RunTime.h"
@@ -181,6 +182,57 @@ void MaskState::End()
         MoveTo(pattern_.Size());
     else
         plain_.End();
+}
+
+void MaskState::Erase(std::size_t first, std::size_t last)
+{
+    if (!IsMasked()) {
+        std::u16string text(plain_.Text());
+        text.erase(first, last - first);
+        plain_.TakeFrom(text, static_cast<std::int32_t>(first));
+        return;
+    }
+    for (std::size_t position = first; position < last; ++position)
+        if (!pattern_.IsLiteral(position))
+            Empty(position);
+    MoveTo(first);
+}
+
+bool MaskState::Insert(std::u16string_view text)
+{
+    if (!IsMasked()) {
+        std::u16string whole(plain_.Text());
+        const auto caret = static_cast<std::size_t>(plain_.Caret());
+        const std::u16string pasted = PastedText(text, Lines::One, RoomUnder(plain_.MaxLength(), whole.size()));
+        whole.insert(caret, pasted);
+        plain_.TakeFrom(whole, static_cast<std::int32_t>(caret + pasted.size()));
+        return pasted == PastedText(text, Lines::One, RoomUnder(0, 0));
+    }
+    bool isAllTaken = true;
+    for (const char16_t unit : text) {
+        if (IsControlCharacter(unit))
+            continue;
+        if (caret_ == pattern_.Size())
+            return false;
+        isAllTaken = Type(unit) != MaskTyping::Refused && isAllTaken;
+    }
+    return isAllTaken;
+}
+
+MaskState::Kept MaskState::Keep() const
+{
+    Kept kept;
+    kept.held_ = held_;
+    kept.plain_ = std::u16string(plain_.Text());
+    kept.caret_ = static_cast<std::size_t>(Caret());
+    return kept;
+}
+
+void MaskState::PutBack(const Kept& kept)
+{
+    held_ = kept.held_;
+    plain_.TakeFrom(kept.plain_, static_cast<std::int32_t>(kept.caret_));
+    MoveTo(kept.caret_);
 }
 
 std::u16string MaskState::BareText() const

@@ -81,6 +81,17 @@ public:
     void Home();
     void End();
 
+    // What he does in a widget with a selection, a clipboard and an undo of its own.
+
+    /// Empties the places from `first` up to `last`; without a mask it takes the units out. The caret goes to `first`.
+    void Erase(std::size_t first, std::size_t last);
+    /// A whole text at the caret, as if typed. Returns whether all of it was taken.
+    bool Insert(std::u16string_view text);
+    /// Text and caret, to be put back under the same mask.
+    class Kept;
+    [[nodiscard]] Kept Keep() const;
+    void PutBack(const Kept& kept);
+
 private:
     /// What stands in each position of the mask: literals, characters, prompts where nothing is filled in.
     struct Held {
@@ -127,6 +138,13 @@ private:
 
     mutable std::u16string text_;
     mutable std::u16string formatted_;
+};
+
+class MaskState::Kept {
+    friend class MaskState;
+    Held held_;
+    std::u16string plain_;
+    std::size_t caret_ = 0;
 };
 
 } // namespace Tessellon

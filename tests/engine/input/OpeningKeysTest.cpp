@@ -15,15 +15,20 @@ namespace {
 /// A toolkit that has lists and calendars to open.
 class OpeningToolkit : public HeadlessToolkit {
 public:
-    void Changed(ControlCore& /*control*/, Aspect aspect) override { Calendars += aspect == Aspect::Calendar ? 1 : 0; }
+    void Changed(ControlCore& /*control*/, Aspect aspect) override { Closed += aspect == Aspect::Calendar ? 1 : 0; }
     bool KeyInWidget(ControlCore& control, std::int16_t keyCode, std::int16_t shift) override
     {
+        if (control.Which() == Child::DTPicker1) {
+            ++Calendars;
+            return true;
+        }
         const bool opens = control.Which() == Child::Combo1 && (keyCode == KeyCode::F4 || (shift & Modifier::Alt) != 0);
         Lists += opens ? 1 : 0;
         return opens;
     }
 
-    int Calendars = 0; ///< How often the picker asked for its calendar to be opened or closed.
+    int Calendars = 0; ///< How often a key was to open the picker's calendar.
+    int Closed = 0; ///< How often the open one was to be taken off the screen.
     int Lists = 0;
 };
 
@@ -69,10 +74,24 @@ TEST_F(OpeningKeys, DisabledPicker_HasItsCalendarClosed)
 {
     Enter(*Platform->DTPicker1());
     Platform->ThePicker()->OpenCalendar();
-    const int before = Toolkit->Calendars;
     Platform->DTPicker1()->Enabled(false);
     EXPECT_FALSE(Platform->ThePicker()->IsCalendarOpen());
-    EXPECT_EQ(Toolkit->Calendars, before + 1);
+    EXPECT_EQ(Toolkit->Closed, 1);
+}
+
+TEST_F(OpeningKeys, UserWhoTurnsToSomethingElse_ClosesTheCalendar)
+{
+    Enter(*Platform->DTPicker1());
+    Platform->ThePicker()->OpenCalendar();
+    User.WindowOut();
+    EXPECT_FALSE(Platform->ThePicker()->IsCalendarOpen());
+    User.WindowIn();
+    Platform->ThePicker()->OpenCalendar();
+    User.Press({KeyCode::Down, 0, false, 0});
+    EXPECT_TRUE(Platform->ThePicker()->IsCalendarOpen());
+    User.FocusOut();
+    EXPECT_FALSE(Platform->ThePicker()->IsCalendarOpen());
+    EXPECT_EQ(Toolkit->Closed, 2);
 }
 
 TEST_F(OpeningKeys, AltWithDownOrUp_OpenTheCombosList_AndChooseNothing)
