@@ -5,8 +5,6 @@
 #include "qt/KeyTranslation.h"
 #include "qt/Texts.h"
 
-#include <QGuiApplication>
-#include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QScopedValueRollback>
 #include <QValidator>
@@ -61,6 +59,7 @@ private:
 
 LineEditWidget::LineEditWidget(SheetFrame& frame, ControlCore& control)
     : EditorOn(frame, control, {QPalette::Base, QPalette::Text})
+    , composition_(frame, control)
 {
     setFrame(false);
     setTextMargins(1, 0, 1, 0);
@@ -148,50 +147,14 @@ void LineEditWidget::Report()
 
 // ---- Input methods --------------------------------------------------------------------------------------------------
 
-/// What is committed is typed, character by character, so that the sheet hears of it as of any other.
 void LineEditWidget::inputMethodEvent(QInputMethodEvent* event)
 {
-    const QString committed = event->commitString();
-    composed_ = event->preeditString();
-    if (committed.isEmpty()) {
-        QLineEdit::inputMethodEvent(event);
-        return;
-    }
-    const QString composedNext = std::exchange(composed_, {});
-    QInputMethodEvent emptied;
-    emptied.setCommitString({}, event->replacementStart(), event->replacementLength());
-    QLineEdit::inputMethodEvent(&emptied);
-    TypeAll(committed);
-    if (!composedNext.isEmpty() && TheControl().HasFocus()) {
-        composed_ = composedNext;
-        QInputMethodEvent rest(composedNext, event->attributes());
-        QLineEdit::inputMethodEvent(&rest);
-    }
-    event->accept();
-}
-
-/// A commit that comes because code has taken the box down finds nobody to type to.
-void LineEditWidget::TypeAll(const QString& text)
-{
-    if (!TheControl().HasFocus() || !TheControl().CanHaveFocus())
-        return;
-    frame_.Do([&] {
-        const std::shared_ptr<EnginePlatform> platform = frame_.Platform();
-        for (const QChar unit : text)
-            platform->TheKeys().Type(unit.unicode());
-    });
+    composition_.Take(*event, [this](QInputMethodEvent& shown) { QLineEdit::inputMethodEvent(&shown); });
 }
 
 void LineEditWidget::CommitComposition()
 {
-    if (!IsComposing())
-        return;
-    QGuiApplication::inputMethod()->commit();
-    if (!IsComposing())
-        return;
-    QInputMethodEvent taken;
-    taken.setCommitString(composed_);
-    inputMethodEvent(&taken);
+    composition_.Commit([this](QInputMethodEvent& shown) { QLineEdit::inputMethodEvent(&shown); });
 }
 
 } // namespace Tessellon

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/fields/TextState.h"
+#include "qt/Composition.h"
 #include "qt/EditorWidget.h"
 
 #include <QLineEdit>
@@ -15,7 +16,7 @@ class LineEditWidget : public EditorOn<QLineEdit, ControlCore> {
 public:
     bool TakeKey(std::int16_t keyCode, std::int16_t shift) override;
     bool TakeCharacter(char16_t character) override;
-    [[nodiscard]] bool IsComposing() const override { return !composed_.isEmpty(); }
+    [[nodiscard]] bool IsComposing() const override { return composition_.IsUnderWay(); }
     void CommitComposition() override;
 
 protected:
@@ -26,7 +27,7 @@ protected:
 
     void ShowContent() override;
     void ShowCaret() override;
-    void AboutToGo() override { composed_.clear(); }
+    void AboutToGo() override { composition_.Drop(); }
     void Pressed(QMouseEvent& event) override { QLineEdit::mousePressEvent(&event); }
     void DoublePressed(QMouseEvent& event) override { QLineEdit::mouseDoubleClickEvent(&event); }
     void Moved(QMouseEvent& event) override { QLineEdit::mouseMoveEvent(&event); }
@@ -39,11 +40,10 @@ private:
     [[nodiscard]] int SelStart() const;
     void Report(); ///< The widget was edited by itself.
     void Tell();
-    void TypeAll(const QString& text);
 
+    Composition composition_;
     bool isFollowing_ = false; ///< Code changes the box: neither limited nor reported.
     bool isTaking_ = false; ///< A key or character changes it, and is reported when it is done.
-    QString composed_;
     char16_t firstHalf_ = 0; ///< Of a pair of surrogates, until its second comes.
 };
 
