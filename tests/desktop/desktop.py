@@ -32,7 +32,7 @@ class Desktop:
     def _start(self):
         reading, writing = os.pipe()
         width, height = self.SIZE
-        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
+        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24", "-noreset", "-nolisten", "tcp",
                     "-fbdir", str(self.folder)], pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as told:
