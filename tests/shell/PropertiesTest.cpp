@@ -26,11 +26,13 @@ TEST_F(Properties, RowOutsideTheDataRows_IsIgnored)
 
 TEST_F(Properties, DateFormatThatThePickerRefuses_HoldsForTheTextsAllTheSame)
 {
-    Sheet->TextMatrix(1, 1, u"02/03/2024");
+    constexpr double thirdOfFebruary2024 = 45325;
+    Members.ColumnData.at(0).cdControlType = fcDatePicker;
+    Grid().TextMatrix(1, 1, u"02/03/2024");
     Sheet.Calls->FailAtMember(u"DTPicker1.Format", 7);
     Sheet->DateFormat(u"MM/dd/yyyy");
-    bool success = false;
-    EXPECT_EQ(Sheet->Minimum(1, mtDate, success), u"02/03/2024");
+    Probe.EnterCell();
+    EXPECT_EQ(Sheet.Platform->ThePicker()->Value(), thirdOfFebruary2024);
 }
 
 TEST_F(Properties, LastRow_IsOneBelowTheNumberOfRows)
