@@ -202,6 +202,10 @@ def kept():
         if not reason:
             sys.exit(f"{KEPT.name}: no reason for\n{entry}")
         reasons[lines[0].split(":")[0], lines[1][1:].strip(), diff] = reason
+    there = {(b.file, b.function, b.diff) for file in {key[0] for key in reasons} if (ROOT / file).is_file()
+             for b in breaks(ROOT, file)}
+    for file, function, diff in reasons.keys() - there:
+        print("\n".join(["no such break any more:", file, f"@ {function}", *diff]) + "\n")
     return reasons
 
 
