@@ -1,4 +1,5 @@
 #include "EditorForm.h"
+#include "PaintedArea.h"
 
 #include <QAction>
 #include <QDialog>
@@ -49,6 +50,23 @@ TEST_P(EditorKinds, EntryAndLeaving_MoveTheFocus)
     EXPECT_EQ(QApplication::focusWidget(), editor) << "the same for all rows";
     ClickThroughWindow(*Before);
     EXPECT_EQ(FocusName(), u"");
+}
+
+TEST_P(EditorKinds, AdvanceByEnter_PaintsWhatTheTwoEditorsCover_AndNoMore)
+{
+    FillWithKind();
+    QTest::qWait(20);
+    const QRect left = QApplication::focusWidget()->geometry();
+    const PaintedArea area(View());
+    Key(Qt::Key_Return);
+    QTest::qWait(20);
+    ASSERT_EQ(Sheet->Col(), 2);
+    const QRegion cells = QRegion(View().PixelsAround(Frame().Platform()->TheGrid().RectangleOf({1, 1}))) +
+                          QRegion(View().PixelsAround(Frame().Platform()->TheGrid().RectangleOf({1, 2})));
+    const QRegion expected = cells + left;
+    EXPECT_FALSE(area.Painted.isEmpty());
+    EXPECT_TRUE((area.Painted - expected).isEmpty()) << area.Pixels;
+    EXPECT_LE(area.Pixels, PaintedArea::PixelsOf(expected)) << "nothing twice";
 }
 
 TEST_P(EditorKinds, EnterEscAndTab_AreTheSheets_InADialog)
