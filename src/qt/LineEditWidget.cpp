@@ -1,6 +1,7 @@
 #include "qt/LineEditWidget.h"
 
 #include "engine/controls/KeyCodes.h"
+#include "engine/fields/PastedText.h"
 #include "engine/fields/UnitPairs.h"
 #include "qt/KeyTranslation.h"
 #include "qt/Texts.h"
@@ -27,31 +28,44 @@ public:
 
     State validate(QString& text, int& caret) const override
     {
-        if (!box_.isFollowing_)
-            Trim(OwnText(box_.Field().Text()), text, caret);
+        if (box_.isFollowing_ || box_.isRestoring_)
+            return Acceptable;
+        const Insertion insertion = InsertionInto(OwnText(box_.Field().Text()), text, caret);
+        const QString fitting = Fitting(insertion, text);
+        if (fitting == QStringView(text).mid(insertion.Begin, insertion.Units))
+            return Acceptable;
+        // A text that is changed here costs the line edit all that it could undo; one that is refused costs nothing.
+        if (box_.isTaking_) {
+            box_.instead_ = fitting;
+            return Invalid;
+        }
+        text.replace(insertion.Begin, insertion.Units, fitting);
+        caret = static_cast<int>(insertion.Begin + fitting.size());
         return Acceptable;
     }
 
 private:
+    struct Insertion {
+        qsizetype Begin;
+        qsizetype Units;
+    };
+
     /// What was inserted ends at the caret; what stands behind that is what stood there before.
-    void Trim(const QString& before, QString& text, int& caret) const
+    static Insertion InsertionInto(const QString& before, const QString& text, int caret)
     {
         const qsizetype kept = std::min<qsizetype>(caret, before.size() - (text.size() - caret));
         qsizetype begin = 0;
         while (begin < kept && before[begin] == text[begin])
             ++begin;
-        const qsizetype units = caret - begin;
-        QString inserted =
-            OneLine(UnitsOf(text).substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(units)));
-        const qsizetype most = box_.Field().MaxLength();
-        if (most > 0)
-            inserted.truncate(std::clamp<qsizetype>(most - (text.size() - units), 0, inserted.size()));
-        if (inserted.size() < units && !inserted.isEmpty() && inserted.back().isHighSurrogate())
-            inserted.chop(1);
-        if (inserted == QStringView(text).mid(begin, units))
-            return;
-        text.replace(begin, units, inserted);
-        caret = static_cast<int>(begin + inserted.size());
+        return {begin, caret - begin};
+    }
+
+    [[nodiscard]] QString Fitting(const Insertion& insertion, const QString& text) const
+    {
+        const auto held = static_cast<std::size_t>(text.size() - insertion.Units);
+        const auto inserted =
+            UnitsOf(text).substr(static_cast<std::size_t>(insertion.Begin), static_cast<std::size_t>(insertion.Units));
+        return OwnText(PastedText(inserted, Lines::One, RoomUnder(box_.Field().MaxLength(), held)));
     }
 
     LineEditWidget& box_;
@@ -100,7 +114,10 @@ bool LineEditWidget::TakeKey(std::int16_t keyCode, std::int16_t shift)
     {
         const QScopedValueRollback taking(isTaking_, true);
         QKeyEvent key(QEvent::KeyPress, QtKeyOf(keyCode), ModifiersOf(shift));
+        const bool restores = key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+        const QScopedValueRollback restoring(isRestoring_, restores);
         QLineEdit::keyPressEvent(&key);
+        InsertInstead();
     }
     firstHalf_ = 0;
     Tell();
@@ -121,9 +138,16 @@ bool LineEditWidget::TakeCharacter(char16_t character)
         const QScopedValueRollback taking(isTaking_, true);
         insert(first != 0 && IsLowSurrogate(character) ? QString(QChar(first)) + QChar(character)
                                                        : QString(QChar(character)));
+        InsertInstead();
     }
     Tell();
     return true;
+}
+
+void LineEditWidget::InsertInstead()
+{
+    if (const auto fitting = std::exchange(instead_, std::nullopt))
+        insert(*fitting);
 }
 
 /// With a selection the caret of the control is where that begins, at whichever end the widget has its own.

@@ -6,6 +6,7 @@
 
 #include <QLineEdit>
 
+#include <optional>
 #include <string_view>
 
 namespace Tessellon {
@@ -40,10 +41,13 @@ private:
     [[nodiscard]] int SelStart() const;
     void Report(); ///< The widget was edited by itself.
     void Tell();
+    void InsertInstead(); ///< What has room and fits in one line, where all of it was refused.
 
     Composition composition_;
     bool isFollowing_ = false; ///< Code changes the box: neither limited nor reported.
     bool isTaking_ = false; ///< A key or character changes it, and is reported when it is done.
+    bool isRestoring_ = false; ///< What the box held before comes back, whatever it is.
+    std::optional<QString> instead_;
     char16_t firstHalf_ = 0; ///< Of a pair of surrogates, until its second comes.
 };
 
