@@ -24,12 +24,12 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override; ///< Of all that happens while the list is open.
 
-protected:
     [[nodiscard]] int EntryCount() const override { return control_.State().Count(); }
     [[nodiscard]] QString EntryText(int index) const override;
     [[nodiscard]] bool IsEntrySelected(int index) const override;
     [[nodiscard]] int CurrentEntry() const override { return control_.State().Current(); }
 
+protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;

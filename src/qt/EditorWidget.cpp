@@ -94,6 +94,11 @@ void EditorWidget::ShowVisible()
     widget_.show();
 }
 
+QString EditorWidget::Spoken() const
+{
+    return OwnText(control_->ShownText());
+}
+
 void EditorWidget::Drop()
 {
     held_ = {};

@@ -23,6 +23,7 @@ public:
     virtual ~EditorWidget() = default;
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
+    [[nodiscard]] QString Spoken() const; ///< What the control shows, for who cannot see it.
 
     void FollowAll(); ///< Shows all of the control, which the widget was just made for.
     void Follow(Aspect aspect); ///< Shows what of the control has become another.

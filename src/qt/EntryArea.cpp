@@ -73,6 +73,11 @@ int EntryArea::EntryAt(QPoint position) const
     return index < EntryCount() ? index : -1;
 }
 
+QRect EntryArea::PlaceOf(int index) const
+{
+    return {0, (index - verticalScrollBar()->value()) * StepDown(), viewport()->width(), StepDown()};
+}
+
 void EntryArea::ShowEntry(int index)
 {
     if (index < 0)

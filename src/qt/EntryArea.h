@@ -11,18 +11,19 @@ class EntryArea : public QAbstractScrollArea {
 public:
     explicit EntryArea(QWidget* parent);
 
+    [[nodiscard]] virtual int EntryCount() const = 0;
+    [[nodiscard]] virtual QString EntryText(int index) const = 0;
+    [[nodiscard]] virtual bool IsEntrySelected(int index) const = 0;
+    [[nodiscard]] virtual int CurrentEntry() const = 0; ///< Where the keys are; -1 for nowhere.
+
     [[nodiscard]] int EntryAt(QPoint position) const; ///< In the viewport; -1 for none.
+    [[nodiscard]] QRect PlaceOf(int index) const; ///< In the viewport, or above or below it.
     void ShowEntry(int index); ///< Scrolls as little as brings it into view.
     void EntriesChanged(); ///< Their number, their texts or the font.
     [[nodiscard]] int EntryHeight() const;
     [[nodiscard]] int WidestEntry() const; ///< With the room that the style leaves around it.
 
 protected:
-    [[nodiscard]] virtual int EntryCount() const = 0;
-    [[nodiscard]] virtual QString EntryText(int index) const = 0;
-    [[nodiscard]] virtual bool IsEntrySelected(int index) const = 0;
-    [[nodiscard]] virtual int CurrentEntry() const = 0; ///< Where the keys are; -1 for nowhere.
-
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override; ///< Scrolls, and never what lies under the area.

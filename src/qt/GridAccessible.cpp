@@ -1,6 +1,7 @@
 #include "qt/GridAccessible.h"
 
 #include "qt/CellAccessible.h"
+#include "qt/EditorAccessible.h"
 #include "qt/GridView.h"
 #include "qt/SheetFrame.h"
 #include "qt/Texts.h"
@@ -14,17 +15,18 @@ namespace Tessellon {
 
 namespace {
 
-QAccessibleInterface* MakeGridAccessible(const QString& /*className*/, QObject* object)
+QAccessibleInterface* MakeAccessible(const QString& /*className*/, QObject* object)
 {
-    auto* view = dynamic_cast<GridView*>(object);
-    return view != nullptr ? new GridAccessible(*view) : nullptr;
+    if (auto* view = dynamic_cast<GridView*>(object))
+        return new GridAccessible(*view);
+    return object != nullptr ? MakeEditorAccessible(*object) : nullptr;
 }
 
 } // namespace
 
 void GridAccessible::Install()
 {
-    QAccessible::installFactory(MakeGridAccessible);
+    QAccessible::installFactory(MakeAccessible);
 }
 
 GridAccessible::GridAccessible(GridView& view)

@@ -21,7 +21,7 @@ public:
     explicit GridAccessible(GridView& view);
     ~GridAccessible() override;
 
-    static void Install(); ///< From now on grids are known as such.
+    static void Install(); ///< From now on grids, and the editors that are painted here, are known as such.
 
     [[nodiscard]] GridView& View() const { return view_; }
     [[nodiscard]] GridEngine& Grid() const;

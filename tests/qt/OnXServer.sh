@@ -4,7 +4,7 @@
 set -e
 folder=$(mktemp -d)
 trap 'kill $manager $server 2>/dev/null; rm -rf "$folder"' EXIT
-Xvfb -displayfd 3 -screen 0 1280x1024x24 3>"$folder/display" 2>"$folder/log" &
+Xvfb -displayfd 3 -noreset -screen 0 1280x1024x24 3>"$folder/display" 2>"$folder/log" &
 server=$!
 while [ ! -s "$folder/display" ]; do
     kill -0 $server || exit 1
