@@ -1,4 +1,5 @@
 #include "ChoiceForm.h"
+#include "EditorForm.h"
 
 #include <QAccessible>
 
@@ -6,13 +7,14 @@ namespace Tessellon {
 
 namespace {
 
-class AccessibleEditors : public ChoiceForm {
-protected:
-    [[nodiscard]] static QAccessibleInterface& Of(QObject& object)
-    {
-        return *QAccessible::queryAccessibleInterface(&object);
-    }
-};
+QAccessibleInterface& Of(QObject& object)
+{
+    return *QAccessible::queryAccessibleInterface(&object);
+}
+
+class AccessibleEditors : public ChoiceForm {};
+
+class AccessibleKinds : public EditorForm, public testing::WithParamInterface<FieldControlType> {};
 
 } // namespace
 
@@ -49,5 +51,23 @@ TEST_F(AccessibleEditors, OpenListOfACombo_OffersItsEntries)
     Key(Qt::Key_Down);
     EXPECT_TRUE(list.child(open->CurrentEntry())->state().selected);
 }
+
+/// What is shown is read either as a value or, of a widget of Qt's with lines, by its text interface.
+TEST_P(AccessibleKinds, EditorBearsTheHeading_AndItsTextIsRead)
+{
+    FillWith(GetParam());
+    Sheet->TextMatrix(2, 1, QStringLiteral("02/01/2024"));
+    Click({2, 1});
+    QAccessibleInterface& editor = Of(*QApplication::focusWidget());
+    EXPECT_EQ(editor.role(), QAccessible::EditableText);
+    EXPECT_EQ(editor.text(QAccessible::Name), QStringLiteral("First"));
+    QString shown = editor.text(QAccessible::Value);
+    if (shown.isEmpty() && editor.textInterface() != nullptr)
+        shown = editor.textInterface()->text(0, editor.textInterface()->characterCount());
+    EXPECT_EQ(shown, QStringLiteral("02/01/2024"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, AccessibleKinds,
+                         testing::Values(fcTextBox, fcComboBox, fcDatePicker, fcMaskedEditBox, fcRichTextBox));
 
 } // namespace Tessellon
