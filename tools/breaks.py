@@ -48,8 +48,8 @@ def in_function(code):
 
 REPLACED = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==", "&&": "||", "||": "&&", "+": "-",
             "-": "+", "*": "/", "/": "*", "%": "*", "+=": "-=", "-=": "+="}
-KEYWORDS = ("const constexpr auto static return template friend enum class struct case default public private protected "
-            "if for while switch else do try catch using").replace(" ", "|")
+KEYWORDS = ("const constexpr auto static return template friend enum class struct case default public private "
+            "protected if for while switch else do try catch using").replace(" ", "|")
 DECLARATION = re.compile(rf"(?:{KEYWORDS})\b|[\w:<>,*& ]+[>\w&*] +\w+ *[=({{;]")
 PLAIN_DECLARATION = re.compile(r"[\w:<>,* ]+ \w+(?: = (?:[\d.]+|true|false))?;")
 LABEL = re.compile(r"\s*(?:case [^:]+(?:::\w+)*|default): ?")

@@ -145,30 +145,30 @@ class Programs:
         options = ["-include", str(place / "prelude.h" if in_header else PRELUDE), f"-I{place}/src"]
         if in_header and self.precompile(place / "prelude.h", [f"-I{place}/src"]) is None:
             return NO_COMPILE
-        tests, made, tried, same = f"{folder}_tests", {}, set(), True
+        tests, made = f"{folder}_tests", {}
         # A broken header first goes into the logic alone: mostly that tells, and spares building the tests anew.
         for program, part, outcome in ((tests, "/tessellon_sheet.dir/", BY_TESTS), (tests, "", BY_TESTS),
                                        ("tessellon-replay", "", BY_RECORD)):
             units = [u for u in self.uses[item.file].intersection(self.link[program]) - made.keys() if part in u]
+            if not units and program == tests:
+                continue
             for unit in sorted(units):
                 made[unit] = str(place / Path(unit).name)
-                code = self.code(unit, None if in_header else broken, made[unit], options)
-                if code is None:
+                if self.code(unit, None if in_header else broken, made[unit], options) is None:
                     return NO_COMPILE
-                same &= code == self.unbroken_code(unit, place, ["-include", str(PRELUDE)])
-            if same or program in tried and not units:
-                continue
-            tried.add(program)
             words = [made.get(word, word) for word in self.link[program]]
             words[words.index("-o") + 1] = str(place / program)
             if subprocess.run(words, cwd=BUILD, capture_output=True).returncode != 0:
                 return NO_COMPILE
             if not self.passes(program, place / program, place / "out"):
                 return outcome
-        if same or not in_header and (self.code(unit, broken, place / "optimised", [], ["-O2"]) ==
-                                      self.unbroken_code(unit, place, [], ["-O2"])):
-            return SAME
-        return SURVIVED
+        if in_header:
+            same = all(Path(made[unit]).read_bytes() == self.unbroken_code(unit, place, ["-include", str(PRELUDE)])
+                       for unit in made)
+        else:
+            same = (self.code(unit, broken, place / "optimised", [], ["-O2"]) ==
+                    self.unbroken_code(unit, place, [], ["-O2"]))
+        return SAME if same else SURVIVED
 
     def code(self, unit, source, out, options, more=()):
         """Compiles a source, or the unit's own, as the unit is compiled; its code, or None if it does not compile."""
