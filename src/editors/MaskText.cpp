@@ -28,6 +28,8 @@ void TessellonSheet::FormatStr(std::u16string& Text, std::u16string Mask)
         std::erase(literals, u' ');
         if (literals.empty())
             return;
+        std::ranges::sort(literals);
+        literals.erase(std::ranges::unique(literals).begin(), literals.end());
         for (const char16_t literal : literals)
             std::erase(result, literal);
         const std::size_t removed = valueLength - result.size();
