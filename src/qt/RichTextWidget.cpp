@@ -69,6 +69,20 @@ std::u16string UnitsOfPart(QStringView part)
     return units;
 }
 
+/// The time in which words are kept whole grows with the square of the longest one, at each key.
+constexpr std::size_t longestWholeWord = 4000;
+
+std::size_t LongestWord(std::u16string_view text)
+{
+    std::size_t longest = 0;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = std::min(text.find_first_of(u" \t\r\n", begin), text.size());
+        longest = std::max(longest, end - begin);
+        begin = end + 1;
+    }
+    return longest;
+}
+
 } // namespace
 
 RichTextWidget::RichTextWidget(SheetFrame& frame, RichTextBoxControl& control)
@@ -94,8 +108,13 @@ void RichTextWidget::ShowContent()
     const QScopedValueRollback following(isFollowing_, true);
     firstHalf_ = 0;
     const std::u16string_view text = TheControl().State().Text();
+    const bool cutsWords = LongestWord(text) > longestWholeWord;
+    if (cutsWords)
+        setWordWrapMode(QTextOption::WrapAnywhere);
     if (document()->toRawText() != DocumentForm(text))
         setPlainText(OwnText(text));
+    if (!cutsWords)
+        setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     MoveCaret();
 }
 
@@ -194,6 +213,8 @@ void RichTextWidget::PutIn(std::u16string_view units)
 {
     if (units.size() > Room())
         return;
+    if (LongestWord(TheControl().State().Text()) + LongestWord(units) > longestWholeWord)
+        setWordWrapMode(QTextOption::WrapAnywhere);
     insertPlainText(OwnText(units));
     ensureCursorVisible();
 }
