@@ -28,20 +28,19 @@ public:
 
     State validate(QString& text, int& caret) const override
     {
-        if (box_.isFollowing_ || box_.isRestoring_)
+        // What can be done again was just undone: what the box held before comes back, whatever it is.
+        if (box_.isFollowing_ || box_.isRedoAvailable())
             return Acceptable;
         const Insertion insertion = InsertionInto(OwnText(box_.Field().Text()), text, caret);
         const QString fitting = Fitting(insertion, text);
         if (fitting == QStringView(text).mid(insertion.Begin, insertion.Units))
             return Acceptable;
         // A text that is changed here costs the line edit all that it could undo; one that is refused costs nothing.
-        if (box_.isTaking_) {
-            box_.instead_ = fitting;
-            return Invalid;
-        }
-        text.replace(insertion.Begin, insertion.Units, fitting);
-        caret = static_cast<int>(insertion.Begin + fitting.size());
-        return Acceptable;
+        box_.instead_ = fitting;
+        if (!box_.isTaking_)
+            QMetaObject::invokeMethod(
+                &box_, [&box = box_] { box.InsertInstead(); }, Qt::QueuedConnection);
+        return Invalid;
     }
 
 private:
@@ -91,6 +90,7 @@ void LineEditWidget::ShowContent()
     const QScopedValueRollback following(isFollowing_, true);
     const QString text = OwnText(Field().Text());
     firstHalf_ = 0;
+    instead_.reset();
     if (this->text() != text)
         setText(text);
     setCursorPosition(Field().Caret());
@@ -114,8 +114,6 @@ bool LineEditWidget::TakeKey(std::int16_t keyCode, std::int16_t shift)
     {
         const QScopedValueRollback taking(isTaking_, true);
         QKeyEvent key(QEvent::KeyPress, QtKeyOf(keyCode), ModifiersOf(shift));
-        const bool restores = key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
-        const QScopedValueRollback restoring(isRestoring_, restores);
         QLineEdit::keyPressEvent(&key);
         InsertInstead();
     }

@@ -28,7 +28,11 @@ protected:
 
     void ShowContent() override;
     void ShowCaret() override;
-    void AboutToGo() override { composition_.Drop(); }
+    void AboutToGo() override
+    {
+        composition_.Drop();
+        instead_.reset();
+    }
     void Pressed(QMouseEvent& event) override { QLineEdit::mousePressEvent(&event); }
     void DoublePressed(QMouseEvent& event) override { QLineEdit::mouseDoubleClickEvent(&event); }
     void Moved(QMouseEvent& event) override { QLineEdit::mouseMoveEvent(&event); }
@@ -46,7 +50,6 @@ private:
     Composition composition_;
     bool isFollowing_ = false; ///< Code changes the box: neither limited nor reported.
     bool isTaking_ = false; ///< A key or character changes it, and is reported when it is done.
-    bool isRestoring_ = false; ///< What the box held before comes back, whatever it is.
     std::optional<QString> instead_;
     char16_t firstHalf_ = 0; ///< Of a pair of surrogates, until its second comes.
 };
