@@ -1,8 +1,4 @@
-#include "support/Lines.h"
-#include "support/SheetProbe.h"
-#include "support/SheetUnderTest.h"
-
-#include <gtest/gtest.h>
+#include "view/GridEventsUnderTest.h"
 
 #include <ostream>
 #include <utility>
@@ -11,47 +7,6 @@ namespace Tessellon {
 namespace {
 
 constexpr Child grid = Child::MSFlexGrid1;
-
-/// Three rows of two text columns with the editor up in the first cell; events of the grid are told by hand.
-class GridEvents : public testing::Test {
-protected:
-    GridEvents()
-    {
-        Sheet.Build({fcTextBox, fcTextBox}, 3);
-        Sheet.Calls->Notes(true);
-        Forget();
-    }
-    void Forget()
-    {
-        Sheet.Heard.clear();
-        static_cast<void>(Sheet.TakeCalls());
-    }
-    void Request(bool show, bool hide)
-    {
-        Members.ShowEditorRequest = show;
-        Members.HideEditorRequest = hide;
-    }
-    void ExpectRequests(bool show, bool hide)
-    {
-        EXPECT_EQ(Members.ShowEditorRequest, show);
-        EXPECT_EQ(Members.HideEditorRequest, hide);
-    }
-    void Tell(ChildEvent event) { Probe.Raise(grid, event); }
-    void TellMouse(ChildEvent event, float x, float y)
-    {
-        EventArguments arguments;
-        arguments.Button = 1;
-        arguments.X = x;
-        arguments.Y = y;
-        Probe.Raise(grid, event, arguments);
-    }
-    bool IsUp() { return !Sheet.EditorsUp().empty(); }
-    Grid& TheGrid() { return Sheet.Platform->MSFlexGrid1(); }
-
-    SheetUnderTest Sheet;
-    SheetProbe Probe{*Sheet};
-    SheetMembers& Members = Probe.Members();
-};
 
 // ---- What reaches the host ------------------------------------------------------------------------------------------
 
@@ -433,106 +388,6 @@ TEST_F(GridEvents, ClickOnTheLastRow_MovesTheViewAheadOfTheEditor)
     EXPECT_LT(PlaceOf(calls, "MSFlexGrid1.TopRow=28"), PlaceOf(calls, "Text1.Visible=True"));
     EXPECT_TRUE(IsUp());
     EXPECT_EQ(Sheet.Platform->Text1()->Top(), static_cast<float>(TheGrid().CellTop()));
-}
-
-// ---- A change of the cell -------------------------------------------------------------------------------------------
-
-TEST_F(GridEvents, ChangeOfTheCell_MirrorsItSweepsAndSetsTheRequests)
-{
-    Request(false, true);
-    Members.SkipEnterCell = true;
-    Members.CurrentRow = Members.CurrentCol = 9;
-    Tell(ChildEvent::RowColChange);
-    EXPECT_EQ(Members.CurrentRow, 1);
-    EXPECT_EQ(Members.CurrentCol, 1);
-    const Lines calls = Sheet.TakeCalls();
-    EXPECT_EQ(calls.front(), "MSFlexGrid1.Refresh()");
-    EXPECT_EQ(calls.back(), "Command1(0).Enabled=False");
-    EXPECT_FALSE(IsUp()) << "the request of before takes effect";
-    ExpectRequests(true, false);
-    EXPECT_FALSE(Members.SkipEnterCell);
-}
-
-TEST_F(GridEvents, ChangeWhoseColumnCannotBeRead_HasMirroredTheRow)
-{
-    for (const ChildEvent event : {ChildEvent::RowColChange, ChildEvent::SelChange}) {
-        Members.CurrentRow = Members.CurrentCol = 9;
-        Sheet.Calls->FailAtMember(u"MSFlexGrid1.Col", 7);
-        Tell(event);
-        EXPECT_EQ(Members.CurrentRow, 1);
-        EXPECT_EQ(Members.CurrentCol, 9);
-    }
-}
-
-TEST_F(GridEvents, ChangeToAColumnOutOfSight_AsksToHide)
-{
-    TheGrid().ColWidth(1, 0);
-    Tell(ChildEvent::RowColChange);
-    ExpectRequests(false, true);
-    TheGrid().ColWidth(1, 960);
-    Tell(ChildEvent::RowColChange);
-    ExpectRequests(true, false);
-    Members.ColumnData.at(0).cdHidden = true;
-    Tell(ChildEvent::RowColChange);
-    ExpectRequests(false, true);
-}
-
-TEST_F(GridEvents, ChangeToAColumnWithoutAnEditor_AsksToShowAllTheSame)
-{
-    Members.ColumnData.at(0).cdControlType = fcNil;
-    Request(false, false);
-    Tell(ChildEvent::RowColChange);
-    EXPECT_FALSE(IsUp());
-    ExpectRequests(true, false);
-}
-
-TEST_F(GridEvents, ChangeWhileTheGridIsNotReady_MirrorsAndTellsAndNothingElse)
-{
-    Members.GridReady = false;
-    Members.SkipEnterCell = true;
-    Members.CurrentRow = 9;
-    Request(false, true);
-    Tell(ChildEvent::RowColChange);
-    EXPECT_EQ(Members.CurrentRow, 1);
-    EXPECT_TRUE(Members.SkipEnterCell);
-    ExpectRequests(false, true);
-    EXPECT_EQ(Sheet.TakeCalls(), Lines{"MSFlexGrid1.Refresh()"});
-    EXPECT_EQ(Sheet.TakeEvents(), Lines{"RowColChange"});
-}
-
-TEST_F(GridEvents, ChangeWithoutAnyEditorEverOrInALoad_SweepsNothingAndSetsTheRequests)
-{
-    for (const bool loading : {true, false}) {
-        Members.LoadingRecordset = loading;
-        if (!loading)
-            Members.ActiveEditor = nullptr;
-        Request(false, true);
-        Forget();
-        Tell(ChildEvent::RowColChange);
-        EXPECT_EQ(Sheet.TakeCalls(), Lines{"MSFlexGrid1.Refresh()"});
-        ExpectRequests(true, false);
-    }
-}
-
-TEST_F(GridEvents, ChangeWithoutRows_ForgetsTheSkipAndLeavesTheRequests)
-{
-    Members.RowCount = 0;
-    Members.SkipEnterCell = true;
-    Request(false, false);
-    Tell(ChildEvent::RowColChange);
-    EXPECT_FALSE(Members.SkipEnterCell);
-    ExpectRequests(false, false);
-}
-
-TEST_F(GridEvents, ChangeThatFails_LeavesNewMirrorsAndOldRequests)
-{
-    Request(false, true);
-    Members.CurrentRow = 9;
-    Sheet.Calls->FailAtMember(u"MSFlexGrid1.ColWidth", 7);
-    Tell(ChildEvent::RowColChange);
-    EXPECT_EQ(Members.CurrentRow, 1);
-    EXPECT_FALSE(Members.ShowEditorRequest);
-    EXPECT_EQ(Sheet.TakeEventNames().back(), "RowColChange");
 }
 
 } // namespace
