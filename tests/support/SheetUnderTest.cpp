@@ -105,7 +105,11 @@ SheetUnderTest::SheetUnderTest()
     Platform->Resize(9600, 4800);
 }
 
-SheetUnderTest::~SheetUnderTest() = default;
+/// The end of the sheet may still be heard, where a test has left a failure to come.
+SheetUnderTest::~SheetUnderTest()
+{
+    Sheet.reset();
+}
 
 void SheetUnderTest::Listen()
 {
