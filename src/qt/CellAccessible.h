@@ -1,9 +1,9 @@
 #pragma once
 
 #include "engine/grid/GridTypes.h"
+#include "qt/LeafAccessible.h"
 
 #include <QAccessibleActionInterface>
-#include <QAccessibleInterface>
 #include <QAccessibleTableCellInterface>
 
 namespace Tessellon {
@@ -12,7 +12,7 @@ class GridAccessible;
 
 /// A cell of the grid as a screen reader knows it: a data cell with its text, a heading, or the number of a row. One
 /// whose row or column is gone is not valid any more.
-class CellAccessible final : public QAccessibleInterface,
+class CellAccessible final : public LeafAccessible,
                              public QAccessibleTableCellInterface,
                              public QAccessibleActionInterface {
 public:
@@ -22,15 +22,9 @@ public:
 
     void* interface_cast(QAccessible::InterfaceType type) override;
     [[nodiscard]] bool isValid() const override;
-    [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QWindow* window() const override;
     [[nodiscard]] QAccessibleInterface* parent() const override;
-    [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
-    [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
     [[nodiscard]] QString text(QAccessible::Text kind) const override;
-    void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {} ///< Its editor is for that.
     [[nodiscard]] QRect rect() const override;
     [[nodiscard]] QAccessible::Role role() const override;
     [[nodiscard]] QAccessible::State state() const override;

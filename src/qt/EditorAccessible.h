@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qt/LeafAccessible.h"
+
 #include <QAccessibleWidget>
 #include <QHash>
 
@@ -40,22 +42,16 @@ private:
 };
 
 /// One entry. It is not valid where the list has become shorter.
-class EntryAccessible final : public QAccessibleInterface {
+class EntryAccessible final : public LeafAccessible {
 public:
     EntryAccessible(const EntriesAccessible& list, int index);
 
     [[nodiscard]] int Index() const { return index_; }
 
     [[nodiscard]] bool isValid() const override;
-    [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QWindow* window() const override;
     [[nodiscard]] QAccessibleInterface* parent() const override;
-    [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
-    [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
     [[nodiscard]] QString text(QAccessible::Text kind) const override;
-    void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
     [[nodiscard]] QRect rect() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ListItem; }
     [[nodiscard]] QAccessible::State state() const override;
