@@ -89,7 +89,7 @@ void LineEditWidget::ShowContent()
 {
     const QScopedValueRollback following(isFollowing_, true);
     const QString text = OwnText(Field().Text());
-    firstHalf_ = 0;
+    gathered_.Drop();
     instead_.reset();
     if (this->text() != text)
         setText(text);
@@ -117,7 +117,7 @@ bool LineEditWidget::TakeKey(std::int16_t keyCode, std::int16_t shift)
         QLineEdit::keyPressEvent(&key);
         InsertInstead();
     }
-    firstHalf_ = 0;
+    gathered_.Drop();
     Tell();
     return true;
 }
@@ -126,16 +126,12 @@ bool LineEditWidget::TakeCharacter(char16_t character)
 {
     if (IsControlCharacter(character))
         return true;
-    // The halves of a pair come one by one and go in together, or not at all.
-    if (IsHighSurrogate(character)) {
-        firstHalf_ = character;
+    const std::u16string units = gathered_.Take(character);
+    if (units.empty())
         return true;
-    }
-    const char16_t first = std::exchange(firstHalf_, u'\0');
     {
         const QScopedValueRollback taking(isTaking_, true);
-        insert(first != 0 && IsLowSurrogate(character) ? QString(QChar(first)) + QChar(character)
-                                                       : QString(QChar(character)));
+        insert(OwnText(units));
         InsertInstead();
     }
     Tell();

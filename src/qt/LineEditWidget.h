@@ -3,6 +3,7 @@
 #include "engine/fields/TextState.h"
 #include "qt/Composition.h"
 #include "qt/EditorWidget.h"
+#include "qt/GatheredUnits.h"
 
 #include <QLineEdit>
 
@@ -51,7 +52,7 @@ private:
     bool isFollowing_ = false; ///< Code changes the box: neither limited nor reported.
     bool isTaking_ = false; ///< A key or character changes it, and is reported when it is done.
     std::optional<QString> instead_;
-    char16_t firstHalf_ = 0; ///< Of a pair of surrogates, until its second comes.
+    GatheredUnits gathered_;
 };
 
 } // namespace Tessellon

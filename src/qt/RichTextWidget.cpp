@@ -106,7 +106,7 @@ RichTextWidget::RichTextWidget(SheetFrame& frame, RichTextBoxControl& control)
 void RichTextWidget::ShowContent()
 {
     const QScopedValueRollback following(isFollowing_, true);
-    firstHalf_ = 0;
+    gathered_.Drop();
     const std::u16string_view text = TheControl().State().Text();
     const bool cutsWords = LongestWord(text) > longestWholeWord;
     if (cutsWords)
@@ -167,7 +167,7 @@ bool RichTextWidget::TakeKey(std::int16_t keyCode, std::int16_t shift)
         return true;
     {
         const QScopedValueRollback taking(isTaking_, true);
-        firstHalf_ = 0;
+        gathered_.Drop();
         if (keyCode == KeyCode::Enter) {
             PutIn(u"\r\n");
         } else {
@@ -183,18 +183,12 @@ bool RichTextWidget::TakeCharacter(char16_t character)
 {
     if (IsControlCharacter(character))
         return true;
-    // The halves of a pair come one by one and go in together, or not at all.
-    if (IsHighSurrogate(character)) {
-        firstHalf_ = character;
+    const std::u16string units = gathered_.Take(character);
+    if (units.empty())
         return true;
-    }
-    const char16_t first = std::exchange(firstHalf_, u'\0');
     {
         const QScopedValueRollback taking(isTaking_, true);
-        if (first != 0 && IsLowSurrogate(character))
-            PutIn(std::u16string{first, character});
-        else
-            PutIn({&character, 1});
+        PutIn(units);
     }
     Tell();
     return true;

@@ -3,6 +3,7 @@
 #include "engine/controls/TextControls.h"
 #include "qt/Composition.h"
 #include "qt/EditorWidget.h"
+#include "qt/GatheredUnits.h"
 
 #include <QPlainTextEdit>
 
@@ -46,7 +47,7 @@ private:
     Composition composition_;
     bool isFollowing_ = false; ///< Code changes the box, which is not reported.
     bool isTaking_ = false; ///< A key or character changes it, and is reported when it is done.
-    char16_t firstHalf_ = 0; ///< Of a pair of surrogates, until its second comes.
+    GatheredUnits gathered_;
 };
 
 } // namespace Tessellon
