@@ -1,12 +1,11 @@
 #include "ChoiceForm.h"
+#include "HostDialog.h"
 #include "PaintedArea.h"
 
 #include <QAction>
-#include <QDialog>
 #include <QInputMethodEvent>
 #include <QScreen>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -331,17 +330,8 @@ TEST_F(ComboOnTheDesktop, WidgetsOfAnArray_AreMadeWhenFirstShown_AndGoWithTheirC
 
 TEST(ComboInADialog, EnterEscAndTabWithTheListOpen_AreNotTheDialogs)
 {
-    QDialog dialog;
-    auto* const sheet = new SheetWidget(&dialog);
-    auto* const button = new QPushButton(QStringLiteral("OK"), &dialog);
-    auto* const layout = new QVBoxLayout(&dialog);
-    layout->addWidget(sheet);
-    layout->addWidget(button);
-    button->setDefault(true);
-    int pressed = 0;
-    QObject::connect(button, &QPushButton::clicked, [&] { ++pressed; });
-    dialog.show();
-    dialog.activateWindow();
+    HostDialog dialog;
+    SheetWidget* const sheet = dialog.Sheet;
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     sheet->Cols(3);
     sheet->CreateColumnDataType(1, QStringLiteral("A"), fcComboBox, QStringLiteral("a|b"), false, fcLeft, 0, faNil,
@@ -368,7 +358,7 @@ TEST(ComboInADialog, EnterEscAndTabWithTheListOpen_AreNotTheDialogs)
     ASSERT_EQ(focusName(), u"Command1(0)");
     QTest::keyClick(window, Qt::Key_Return);
     QTest::keyClick(window, Qt::Key_Space);
-    EXPECT_EQ(pressed, 0);
+    EXPECT_EQ(dialog.Pressed, 0);
 }
 
 } // namespace Tessellon

@@ -1,9 +1,8 @@
 #include "EditorForm.h"
+#include "HostDialog.h"
 #include "PaintedArea.h"
 
 #include <QAction>
-#include <QDialog>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -71,19 +70,9 @@ TEST_P(EditorKinds, AdvanceByEnter_PaintsWhatTheTwoEditorsCover_AndNoMore)
 
 TEST_P(EditorKinds, EnterEscAndTab_AreTheSheets_InADialog)
 {
-    QDialog dialog;
-    auto* const sheet = new SheetWidget(&dialog);
-    auto* const button = new QPushButton(QStringLiteral("OK"), &dialog);
-    auto* const layout = new QVBoxLayout(&dialog);
-    layout->addWidget(sheet);
-    layout->addWidget(button);
-    button->setDefault(true);
-    int pressed = 0;
-    QObject::connect(button, &QPushButton::clicked, [&] { ++pressed; });
-    dialog.show();
-    dialog.activateWindow();
+    HostDialog dialog;
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-    Sheet = sheet;
+    Sheet = dialog.Sheet;
     FillWithKind();
     ASSERT_EQ(FocusName(), GetParam().Control);
     if (GetParam().Type == fcDatePicker)
@@ -96,12 +85,12 @@ TEST_P(EditorKinds, EnterEscAndTab_AreTheSheets_InADialog)
         Key(Qt::Key_F4);
     Key(Qt::Key_Escape);
     EXPECT_EQ(FocusName(), u"MSFlexGrid1");
-    EXPECT_EQ(pressed, 0);
+    EXPECT_EQ(dialog.Pressed, 0);
     EXPECT_TRUE(dialog.isVisible());
     Click({2, 1});
     Key(Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), button);
-    EXPECT_EQ(pressed, 0);
+    EXPECT_EQ(QApplication::focusWidget(), dialog.Button);
+    EXPECT_EQ(dialog.Pressed, 0);
 }
 
 TEST_P(EditorKinds, KeysThatTheEditorUses_AreNoShortcutsOfTheHosts_OthersAre)

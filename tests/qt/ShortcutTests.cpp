@@ -1,8 +1,7 @@
 #include "Form.h"
+#include "HostDialog.h"
 
 #include <QAction>
-#include <QDialog>
-#include <QVBoxLayout>
 
 namespace Tessellon {
 
@@ -68,17 +67,8 @@ TEST_F(Shortcuts, OtherKeys_AreTheHosts)
 
 TEST(SheetInADialog, EnterPressesNoDefaultButton_AndEscClosesNothing_WhileAnEditorIsUp)
 {
-    QDialog dialog;
-    auto* const sheet = new SheetWidget(&dialog);
-    auto* const button = new QPushButton(QStringLiteral("OK"), &dialog);
-    auto* const layout = new QVBoxLayout(&dialog);
-    layout->addWidget(sheet);
-    layout->addWidget(button);
-    button->setDefault(true);
-    int pressed = 0;
-    QObject::connect(button, &QPushButton::clicked, [&] { ++pressed; });
-    dialog.show();
-    dialog.activateWindow();
+    HostDialog dialog;
+    SheetWidget* const sheet = dialog.Sheet;
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     sheet->Cols(3);
     sheet->CreateColumnDataType(1, QStringLiteral("A"), fcTextBox, {}, false, fcLeft, 0, faNil, false);
@@ -95,11 +85,11 @@ TEST(SheetInADialog, EnterPressesNoDefaultButton_AndEscClosesNothing_WhileAnEdit
     EXPECT_EQ(focusName(), u"Text1");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_EQ(focusName(), u"MSFlexGrid1");
-    EXPECT_EQ(pressed, 0);
+    EXPECT_EQ(dialog.Pressed, 0);
     EXPECT_TRUE(dialog.isVisible());
 
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(pressed, 1);
+    EXPECT_EQ(dialog.Pressed, 1);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
 }
