@@ -17,6 +17,7 @@ test=(
     xvfb              # a display for the tests of real windows
     openbox           # their window manager: without one the focus never comes back from a box
     xdotool           # their keyboard and mouse
+    postgresql        # a server that the tests start for themselves, for records that come from one
     python3           # plays the users and callers of the example
     clang-format      # the layout of the sources
 )
