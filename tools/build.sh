@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# tools/build.sh PRESET TARGET...: builds these targets; tools/build.sh PRESET --tests: everything, with the tests.
+# tools/build.sh PRESET TARGET...: builds these targets; tools/build.sh PRESET --tests: everything, with the tests;
+# tools/build.sh PRESET --benchmarks: what ./bench runs.
 # Configures only when needed. Says what it is doing on standard error, and shows the build's own words only when it fails.
 set -euo pipefail
 # A replay may come by standard input.
@@ -25,17 +26,26 @@ elif [[ -f $folder/build.ninja ]]; then
     configured=yes
 fi
 
+# What only the tests or the benchmarks need is left out, unless it was asked for here before.
+tests=$(cached TESSELLON_TESTS)
+benchmarks=$(cached TESSELLON_BENCHMARKS)
 targets=()
-if [[ $1 == --tests ]]; then
+case $1 in
+--tests)
+    [[ $tests == ON ]] || configured=no
     tests=ON
-    [[ $(cached TESSELLON_TESTS) == ON ]] || configured=no
-else
-    # The program is built without what only the tests need, unless they were built here before.
-    tests=OFF
+    ;;
+--benchmarks)
+    [[ $benchmarks == ON ]] || configured=no
+    benchmarks=ON
+    targets=(--target tessellon_bench)
+    ;;
+*)
     for target in "$@"; do
         targets+=(--target "$target")
     done
-fi
+    ;;
+esac
 
 log=$folder/build.log
 mkdir -p "$folder"
@@ -47,7 +57,8 @@ fail() {
 
 if [[ $configured == no ]]; then
     echo "Configuring ..." >&2
-    cmake --preset "$preset" "${fresh[@]}" -DTESSELLON_TESTS=$tests >"$log" 2>&1 || fail "The build could not be configured."
+    cmake --preset "$preset" "${fresh[@]}" "-DTESSELLON_TESTS=${tests:-OFF}" \
+        "-DTESSELLON_BENCHMARKS=${benchmarks:-OFF}" >"$log" 2>&1 || fail "The build could not be configured."
 fi
 
 # Passes nothing on but how far the build is: line over line on a terminal, else once.

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# tools/setup.sh program|test: installs what is missing of the Debian packages that the program, or its tests, are built with.
+# tools/setup.sh program|test|bench: installs what is missing of the Debian packages that the program, its tests or its
+# benchmarks are built with.
 # Ends with status 2 where it may not install or the installing fails.
 set -euo pipefail
 
@@ -21,12 +22,22 @@ test=(
     python3           # plays the users and callers of the example
     clang-format      # the layout of the sources
 )
+bench=(
+    libbenchmark-dev   # measures what takes nanoseconds
+    libwxgtk3.2-dev    # a grid to compare with
+    libqt6sql6-sqlite  # the driver of Qt's own table of a database, another one
+    xvfb               # a display for what is painted
+    openbox            # its window manager
+    xdotool            # tells when that one is there
+    python3            # runs the programs and prints the table
+)
 
 case "${1-}" in
 program) wanted=("${program[@]}") ;;
 test) wanted=("${program[@]}" "${test[@]}") ;;
+bench) wanted=("${program[@]}" "${bench[@]}") ;;
 *)
-    echo "tools/setup.sh: say 'program' or 'test'" >&2
+    echo "tools/setup.sh: say 'program', 'test' or 'bench'" >&2
     exit 2
     ;;
 esac

@@ -1,0 +1,58 @@
+"""python3 benchmarks/runner [OPTION...] [NAME...]: measures, and prints the table. ./bench builds first and says more."""
+
+import argparse
+import pathlib
+import sys
+
+import machine
+import table
+from bench import Bench
+from programs import CannotMeasure
+from rows import WORKS, load  # noqa: F401  Each theme registers its rows.
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="./bench")
+    parser.add_argument("--quick", action="store_true")
+    parser.add_argument("--markdown", action="store_true")
+    parser.add_argument("--list", action="store_true")
+    parser.add_argument("names", nargs="*")
+    wanted = parser.parse_args()
+    if wanted.list:
+        for name, (says, _) in WORKS.items():
+            print(f"{name:12} {says}")
+        return 0
+    unknown = [name for name in wanted.names if name not in WORKS]
+    if unknown:
+        print(f"./bench: there is no row {unknown[0]}; --list names them all", file=sys.stderr)
+        return 2
+    return measure(wanted)
+
+
+def measure(wanted):
+    root = pathlib.Path(__file__).resolve().parents[2]
+    bench = Bench(root, wanted.quick)
+    fell_short = failed = False
+    try:
+        print(machine.described(root / "build"))
+        if wanted.quick:
+            print("The quick one: fewer rows and runs, so the figures are rough and decide nothing.")
+        print("\n" + table.heading(wanted.markdown), flush=True)
+        for name, (_, lines) in WORKS.items():
+            if wanted.names and name not in wanted.names:
+                continue
+            try:
+                for line in lines(bench):
+                    print(table.shown(line, wanted.markdown), flush=True)
+                    fell_short |= line.holds is False
+            except CannotMeasure as reason:
+                print(f"./bench: {name} could not be measured: {reason}", file=sys.stderr)
+                failed = True
+    finally:
+        bench.close()
+    if failed:
+        return 2
+    return 1 if fell_short and not wanted.quick else 0
+
+
+sys.exit(main())

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <vector>
+
+namespace Bench {
+
+/// Tells a figure to whoever runs the program: a line of its name and its value.
+inline void Tell(const char* name, double value)
+{
+    std::printf("%s %.9g\n", name, value);
+}
+
+inline double Now()
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+template <class Work>
+double SecondsOf(const Work& work)
+{
+    const double start = Now();
+    work();
+    return Now() - start;
+}
+
+inline double Median(std::vector<double> values)
+{
+    if (values.empty())
+        return 0;
+    std::sort(values.begin(), values.end());
+    const std::size_t middle = values.size() / 2;
+    return values.size() % 2 != 0 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+/// What cells hold, in one number: the same for texts that are the same, in any order of the cells.
+class Checksum {
+public:
+    template <class Text>
+    void Add(const Text& text)
+    {
+        std::uint64_t sum = 0;
+        for (const auto unit : text)
+            sum = sum * 31 + static_cast<std::uint64_t>(unit);
+        total_ += sum;
+    }
+    /// Small enough to be told exactly.
+    [[nodiscard]] double Value() const { return static_cast<double>(total_ % 1'000'000'007); }
+
+private:
+    std::uint64_t total_ = 0;
+};
+
+} // namespace Bench
