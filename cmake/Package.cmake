@@ -52,7 +52,7 @@ function(tessellon_part part)
     set(package_headers ${package_headers} ${given_HEADERS} PARENT_SCOPE)
 endfunction()
 
-tessellon_part(Headless OF tessellon_sheet tessellon_engine tessellon_headless
+tessellon_part(Headless OF tessellon_sheet tessellon_engine tessellon_headless tessellon_records
     HEADERS shell/TessellonSheet.h engine/DefaultProperties.h headless/HeadlessToolkit.h headless/HeadlessHand.h)
 tessellon_part(Sqlite OF tessellon_sqlite LINK PRIVATE SQLite::SQLite3
     HEADERS recordset/sqlite/SqliteConnection.h recordset/sqlite/SqliteRecordset.h)

@@ -2,9 +2,9 @@
 
 #include "orders/OrdersDatabase.h"
 #include "platform/Failure.h"
+#include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteConnection.h"
 #include "recordset/sqlite/SqliteRecordset.h"
-#include "recordset/sqlite/Unicode.h"
 
 #include <cstdlib>
 #include <sqlite3.h>
@@ -83,10 +83,10 @@ Source OpenDatabase(const std::filesystem::path& path)
     source.Connection = std::make_shared<Tessellon::SqliteConnection>();
     try {
         source.Connection->Connect(source.Path.u16string());
-        source.Records = source.Connection->Query(Tessellon::Sqlite::ToUtf16(Query));
+        source.Records = source.Connection->Query(Tessellon::Common::ToUtf16(Query));
     } catch (const Tessellon::Failure& failure) {
         const auto& errors = source.Connection->Errors();
-        std::string words = Tessellon::Sqlite::ToUtf8(failure.Description);
+        std::string words = Tessellon::Common::ToUtf8(failure.Description);
         // Of a file that does not open, the path stands there already.
         if (const std::size_t at = words.find(": " + source.Path.string()); at != std::string::npos)
             words.resize(at);

@@ -1,8 +1,8 @@
 #include "recordset/sqlite/SqliteConnection.h"
 
+#include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteDatabase.h"
 #include "recordset/sqlite/SqliteRecordset.h"
-#include "recordset/sqlite/Unicode.h"
 
 #include <memory>
 #include <sqlite3.h>
@@ -46,7 +46,7 @@ std::shared_ptr<SqliteRecordset> SqliteConnection::Query(std::u16string_view sta
     if (!database_->IsOpen())
         throw database_->Noted(SQLITE_MISUSE, preparing, u"the connection is not open");
 
-    const std::string bytes = Sqlite::ToUtf8(statement);
+    const std::string bytes = Common::ToUtf8(statement);
     const char* at = bytes.c_str();
     const char* const end = at + bytes.size();
     const auto prepareNext = [&] {

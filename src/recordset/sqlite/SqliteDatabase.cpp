@@ -1,7 +1,7 @@
 #include "recordset/sqlite/SqliteDatabase.h"
 
+#include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteConnection.h"
-#include "recordset/sqlite/Unicode.h"
 
 #include <algorithm>
 #include <sqlite3.h>
@@ -65,10 +65,10 @@ void SqliteDatabase::Open(std::u16string_view path, const SqliteOptions& options
     busyMilliseconds_ = std::max(options.BusyMilliseconds, 0);
     // SQLite would open a temporary database for an empty path and read another no further than a zero.
     if (path.empty() || path.find(u'\0') != std::u16string_view::npos)
-        throw Noted(SQLITE_CANTOPEN, Stage::Opening, Sqlite::ToUtf16(sqlite3_errstr(SQLITE_CANTOPEN)));
+        throw Noted(SQLITE_CANTOPEN, Stage::Opening, Common::ToUtf16(sqlite3_errstr(SQLITE_CANTOPEN)));
 
     const int access = options.ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
-    const int code = sqlite3_open_v2(Sqlite::ToUtf8(path).c_str(), &handle_,
+    const int code = sqlite3_open_v2(Common::ToUtf8(path).c_str(), &handle_,
                                      access | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
     if (code != SQLITE_OK)
         throw Noted(code, Stage::Opening);
@@ -110,14 +110,14 @@ void SqliteDatabase::Release() noexcept
 
 Failure SqliteDatabase::Noted(int code, Stage stage)
 {
-    return Noted(code, stage, Sqlite::ToUtf16(handle_ != nullptr ? sqlite3_errmsg(handle_) : sqlite3_errstr(code)));
+    return Noted(code, stage, Common::ToUtf16(handle_ != nullptr ? sqlite3_errmsg(handle_) : sqlite3_errstr(code)));
 }
 
 Failure SqliteDatabase::Noted(int code, Stage stage, std::u16string description)
 {
     const Classification classification = Classify(code, stage, description);
     if (classification.Number == WaitedInVain)
-        description += u" (waited " + Sqlite::ToUtf16(std::to_string(busyMilliseconds_)) + u" milliseconds)";
+        description += u" (waited " + Common::ToUtf16(std::to_string(busyMilliseconds_)) + u" milliseconds)";
     if (stage == Stage::Opening)
         description += u": " + path_;
     errors_.assign(1, {classification.Number, description, u"SQLite", code, classification.State, {}, 0});

@@ -1,10 +1,11 @@
 #include "recordset/sqlite/SqliteRecordset.h"
 
 #include "engine/Failures.h"
-#include "recordset/sqlite/Moment.h"
+#include "recordset/common/Digits.h"
+#include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteDatabase.h"
+#include "recordset/sqlite/StoredMoment.h"
 #include "recordset/sqlite/StoredText.h"
-#include "recordset/sqlite/Unicode.h"
 
 #include <cmath>
 #include <cstring>
@@ -109,7 +110,7 @@ std::u16string SqliteRecordset::FieldName(std::int32_t field)
 {
     CheckField(field);
     const char* name = sqlite3_column_name(statement_, field);
-    return Sqlite::ToUtf16(name != nullptr ? name : "");
+    return Common::ToUtf16(name != nullptr ? name : "");
 }
 
 Value SqliteRecordset::FieldValue(std::int32_t field)
@@ -240,21 +241,13 @@ std::u16string_view SqliteRecordset::Characters(sqlite3_value* value)
         return {};
     }
     const auto count = static_cast<std::size_t>(sqlite3_value_bytes(value));
-    return Sqlite::ToUtf16({static_cast<const char*>(bytes), count}, text_);
+    return Common::ToUtf16({static_cast<const char*>(bytes), count}, text_);
 }
 
 std::u16string_view SqliteRecordset::HexadecimalDigits(sqlite3_value* value)
 {
-    constexpr std::u16string_view digits = u"0123456789ABCDEF";
-    const auto* bytes = static_cast<const unsigned char*>(sqlite3_value_blob(value));
     const auto count = static_cast<std::size_t>(sqlite3_value_bytes(value));
-    if (text_.size() < 2 * count)
-        text_.resize(3 * count);
-    for (std::size_t i = 0; i < count; ++i) {
-        text_[2 * i] = digits[bytes[i] >> 4U];
-        text_[2 * i + 1] = digits[bytes[i] & 0xFU];
-    }
-    return {text_.data(), 2 * count};
+    return Common::HexadecimalDigits(sqlite3_value_blob(value), count, text_);
 }
 
 } // namespace Tessellon

@@ -1,6 +1,7 @@
 #include "recordset/sqlite/StoredText.h"
 
-#include "recordset/sqlite/Moment.h"
+#include "recordset/common/Digits.h"
+#include "recordset/common/Moment.h"
 
 #include <algorithm>
 #include <optional>
@@ -16,24 +17,6 @@ std::u16string_view WithoutBlanks(std::u16string_view text)
     while (!text.empty() && text.back() == u' ')
         text.remove_suffix(1);
     return text;
-}
-
-/// Sign, digits and at most one point, at least one digit.
-bool IsDecimal(std::u16string_view text)
-{
-    if (!text.empty() && (text.front() == u'-' || text.front() == u'+'))
-        text.remove_prefix(1);
-    bool hasPoint = false;
-    bool hasDigit = false;
-    for (const char16_t character : text) {
-        if (character >= u'0' && character <= u'9')
-            hasDigit = true;
-        else if (character == u'.' && !hasPoint)
-            hasPoint = true;
-        else
-            return false;
-    }
-    return hasDigit;
 }
 
 /// Whether text is word, which is in lower case, with letters of either case.
@@ -67,11 +50,11 @@ Value ReadText(std::u16string_view text, Reading reading)
         break;
     case Reading::DateTime:
     case Reading::Time:
-        if (const std::optional<double> serial = SerialOfText(WithoutBlanks(text)))
+        if (const std::optional<double> serial = Common::SerialOfText(WithoutBlanks(text)))
             return Value::OfDate(*serial);
         break;
     case Reading::Decimal:
-        if (const std::u16string_view digits = WithoutBlanks(text); IsDecimal(digits))
+        if (const std::u16string_view digits = WithoutBlanks(text); Common::IsDecimal(digits))
             return Value::OfDecimal(digits);
         break;
     default: break;

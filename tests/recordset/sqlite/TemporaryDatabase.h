@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Failure.h"
+#include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteConnection.h"
 #include "recordset/sqlite/SqliteRecordset.h"
-#include "recordset/sqlite/Unicode.h"
+#include "support/Recordsets.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -96,27 +96,5 @@ protected:
 private:
     std::filesystem::path folder_;
 };
-
-/// Walks to the end from where the recordset stands, and gives the count.
-inline int CountOnwards(Recordset& records)
-{
-    int count = 0;
-    for (; !records.AtEnd(); records.MoveNext())
-        ++count;
-    return count;
-}
-
-/// What a call fails with.
-template <typename Call>
-Failure FailureOf(Call call)
-{
-    try {
-        call();
-    } catch (const Failure& failure) {
-        return failure;
-    }
-    ADD_FAILURE() << "Nothing failed";
-    return Failure(0, u"", u"");
-}
 
 } // namespace Tessellon

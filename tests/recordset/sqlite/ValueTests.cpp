@@ -31,7 +31,7 @@ TEST_F(Values, DecimalsStoredAsText_KeepTheirDigits)
 {
     const std::string digits = "-12345678901234567890123456789.1000";
     EXPECT_EQ(Stored("DECIMAL TEXT", "'" + digits + "'")->FieldValue(0).Type, Value::Kind::Decimal);
-    EXPECT_EQ(Stored("DECIMAL TEXT", "'" + digits + "'")->FieldValue(0).Characters, Sqlite::ToUtf16(digits));
+    EXPECT_EQ(Stored("DECIMAL TEXT", "'" + digits + "'")->FieldValue(0).Characters, Common::ToUtf16(digits));
     EXPECT_EQ(Stored("NUMERIC TEXT", "' 0.50 '")->FieldValue(0).Characters, u"0.50");
     EXPECT_EQ(Stored("MONEY TEXT", "'+.5'")->FieldValue(0).Type, Value::Kind::Decimal);
 }
@@ -49,7 +49,7 @@ TEST_F(Values, TextThatIsNoDecimal_StaysText)
         const auto records = Stored("DECIMAL TEXT", "'" + text + "'");
         const Value value = records->FieldValue(0);
         EXPECT_EQ(value.Type, Value::Kind::Text);
-        EXPECT_EQ(value.Characters, Sqlite::ToUtf16(text));
+        EXPECT_EQ(value.Characters, Common::ToUtf16(text));
     }
 }
 
@@ -127,7 +127,7 @@ TEST_F(Values, Text_IsKeptWhateverItHolds)
     const auto records = Query(u"SELECT a FROM t ORDER BY n");
     for (const std::string& text : texts) {
         ASSERT_FALSE(records->AtEnd());
-        EXPECT_EQ(Sqlite::ToUtf8(records->FieldValue(0).Characters), text);
+        EXPECT_EQ(Common::ToUtf8(records->FieldValue(0).Characters), text);
         records->MoveNext();
     }
     EXPECT_TRUE(records->AtEnd());
@@ -175,7 +175,7 @@ TEST_F(Values, OfTwoThousandFields_AreRead)
 {
     std::u16string statement = u"SELECT 0";
     for (int i = 1; i < 2000; ++i)
-        statement += u", " + Sqlite::ToUtf16(std::to_string(i));
+        statement += u", " + Common::ToUtf16(std::to_string(i));
     Make("CREATE TABLE t (n)");
     const auto records = Query(statement);
     EXPECT_EQ(records->FieldCount(), 2000);

@@ -1,5 +1,5 @@
-#include "recordset/sqlite/AllocationCount.h"
 #include "recordset/sqlite/TemporaryDatabase.h"
+#include "support/AllocationCount.h"
 
 namespace Tessellon {
 

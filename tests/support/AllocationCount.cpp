@@ -1,4 +1,4 @@
-#include "recordset/sqlite/AllocationCount.h"
+#include "support/AllocationCount.h"
 
 #include <atomic>
 #include <cstddef>

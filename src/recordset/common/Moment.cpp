@@ -1,34 +1,12 @@
-#include "recordset/sqlite/Moment.h"
+#include "recordset/common/Moment.h"
 
 #include "engine/runtime/Calendar.h"
 
-#include <cmath>
 #include <cstdint>
 
-namespace Tessellon::Sqlite {
+namespace Tessellon::Common {
 
 namespace {
-
-constexpr std::int64_t MicrosecondsPerDay = 86'400'000'000;
-constexpr std::int64_t DaysFromSerialZeroTo1970 = 25'569;
-constexpr double JulianDayOfSerialZero = 2'415'018.5;
-constexpr double LastJulianDay = 5'373'484.5;
-constexpr double MillisecondsPerDay = 86'400'000.0;
-
-/// From microseconds behind 30 December 1899.
-std::optional<double> Serial(std::int64_t microseconds)
-{
-    std::int64_t day = microseconds / MicrosecondsPerDay;
-    std::int64_t rest = microseconds % MicrosecondsPerDay;
-    if (rest < 0) {
-        rest += MicrosecondsPerDay;
-        --day;
-    }
-    if (!IsLegalSerial(static_cast<double>(day)))
-        return std::nullopt;
-    return SerialWithTime(static_cast<double>(day),
-                          static_cast<double>(rest) / static_cast<double>(MicrosecondsPerDay));
-}
 
 class Reader {
 public:
@@ -130,6 +108,28 @@ std::optional<std::int64_t> ReadTime(Reader& reader)
 
 } // namespace
 
+std::optional<double> SerialOfMicroseconds(std::int64_t microseconds)
+{
+    std::int64_t day = microseconds / MicrosecondsPerDay;
+    std::int64_t rest = microseconds % MicrosecondsPerDay;
+    if (rest < 0) {
+        rest += MicrosecondsPerDay;
+        --day;
+    }
+    if (!IsLegalSerial(static_cast<double>(day)))
+        return std::nullopt;
+    return SerialWithTime(static_cast<double>(day),
+                          static_cast<double>(rest) / static_cast<double>(MicrosecondsPerDay));
+}
+
+std::optional<double> SerialOfDate(int year, int month, int day, std::int64_t microseconds)
+{
+    if (!IsLegalDate(year, month, day))
+        return std::nullopt;
+    const auto serial = static_cast<std::int64_t>(SerialOf({year, month, day, 0, 0, 0}));
+    return SerialOfMicroseconds(serial * MicrosecondsPerDay + microseconds);
+}
+
 std::optional<double> SerialOfText(std::u16string_view text)
 {
     Reader reader(text);
@@ -146,30 +146,7 @@ std::optional<double> SerialOfText(std::u16string_view text)
     const std::optional<std::int64_t> time = ReadTime(reader);
     if (!time || !reader.AtEnd())
         return std::nullopt;
-    return Serial(*day * MicrosecondsPerDay + *time);
+    return SerialOfMicroseconds(*day * MicrosecondsPerDay + *time);
 }
 
-std::optional<double> SerialOfNumber(double number)
-{
-    // Ahead of the rounding, which needs a number that fits.
-    if (!(number > -1e12 && number < 1e12))
-        return std::nullopt;
-    const bool isJulianDay = number >= 0 && number < LastJulianDay;
-    const double milliseconds =
-        isJulianDay
-            ? std::floor(number * MillisecondsPerDay + 0.5) - JulianDayOfSerialZero * MillisecondsPerDay
-            : std::floor(number * 1000.0 + 0.5) + static_cast<double>(DaysFromSerialZeroTo1970) * MillisecondsPerDay;
-    return Serial(static_cast<std::int64_t>(milliseconds) * 1000);
-}
-
-std::optional<double> TimeOfNumber(double number)
-{
-    if (number >= 0 && number < 1)
-        return number;
-    const std::optional<double> serial = SerialOfNumber(number);
-    if (!serial)
-        return std::nullopt;
-    return std::abs(*serial - std::trunc(*serial));
-}
-
-} // namespace Tessellon::Sqlite
+} // namespace Tessellon::Common

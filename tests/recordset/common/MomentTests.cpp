@@ -1,12 +1,11 @@
-#include "recordset/sqlite/Moment.h"
+#include "recordset/common/Moment.h"
 
 #include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-namespace Tessellon::Sqlite {
+namespace Tessellon::Common {
 
 namespace {
 
@@ -79,36 +78,23 @@ TEST(Moment, ZoneThatLeavesTheYears_IsNone)
     EXPECT_FALSE(SerialOfText(u"0100-01-01 01:00+02:00").has_value());
 }
 
-TEST(Moment, SmallNumber_IsAJulianDay)
+TEST(Moment, DateWithItsMicroseconds_IsASerial)
 {
-    EXPECT_EQ(SerialOfNumber(2415018.5), 0.0);
-    EXPECT_EQ(SerialOfNumber(2460385), Day15March2024 + 0.5);
-    EXPECT_EQ(SerialOfNumber(2460384.9375), Day15March2024 + 0.4375);
+    EXPECT_EQ(SerialOfDate(2024, 3, 15), Day15March2024);
+    EXPECT_EQ(SerialOfDate(2024, 3, 15, MicrosecondsPerDay / 4), Day15March2024 + 0.25);
+    EXPECT_EQ(SerialOfDate(1899, 12, 29, MicrosecondsPerDay / 4), -1.25);
+    EXPECT_EQ(SerialOfDate(9999, 12, 31, MicrosecondsPerDay - 1), SerialOfText(u"9999-12-31 23:59:59.999999"));
+    EXPECT_EQ(SerialOfMicroseconds(-MicrosecondsPerDay / 4), -1.75);
 }
 
-TEST(Moment, JulianDay_IsRoundedToTheMillisecond)
+TEST(Moment, DateThatNoCalendarHas_IsNone)
 {
-    const double halfPastTen = 10.5 / 24 + 1.0 / 86400;
-    EXPECT_EQ(SerialOfNumber(2415018.5 + Day15March2024 + halfPastTen), SerialOfText(u"2024-03-15 10:30:01"));
-}
-
-TEST(Moment, LargeNumber_IsSecondsSince1970)
-{
-    EXPECT_EQ(SerialOfNumber(1710504000), Day15March2024 + 0.5);
-    EXPECT_EQ(SerialOfNumber(-86400), 25568.0);
-}
-
-TEST(Moment, NumberOutsideTheYears_IsNone)
-{
-    for (const double number : {0.0, 2024.0, 1e12, -1e11, 1e300, -1e300, 1.0 / 0.0, std::nan("")})
-        EXPECT_FALSE(SerialOfNumber(number).has_value()) << number;
-}
-
-TEST(Moment, TimeNumber_IsAFractionOrTheMomentsTime)
-{
-    EXPECT_EQ(TimeOfNumber(0.25), 0.25);
-    EXPECT_EQ(TimeOfNumber(2460384.9375), 0.4375);
-    EXPECT_FALSE(TimeOfNumber(2024).has_value());
+    EXPECT_FALSE(SerialOfDate(2023, 2, 29).has_value());
+    EXPECT_FALSE(SerialOfDate(99, 12, 31).has_value());
+    EXPECT_FALSE(SerialOfDate(10000, 1, 1).has_value());
+    EXPECT_FALSE(SerialOfDate(-4713, 1, 1).has_value());
+    EXPECT_FALSE(SerialOfDate(9999, 12, 31, MicrosecondsPerDay).has_value());
+    EXPECT_FALSE(SerialOfMicroseconds(-700'000 * MicrosecondsPerDay).has_value());
 }
 
 RC_GTEST_PROP(MomentProperty, EveryDayOfTheCalendar_ReadsAsItsSerial, ())
@@ -119,9 +105,10 @@ RC_GTEST_PROP(MomentProperty, EveryDayOfTheCalendar_ReadsAsItsSerial, ())
     const int length = std::snprintf(text, sizeof text, "%04d-%02u-%02u", static_cast<int>(date.year()),
                                      static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
     RC_ASSERT(SerialOfText(std::u16string(text, text + length)) == static_cast<double>(serial));
-    RC_ASSERT(SerialOfNumber(serial + 2415018.5) == static_cast<double>(serial));
+    RC_ASSERT(SerialOfDate(static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+                           static_cast<int>(static_cast<unsigned>(date.day()))) == static_cast<double>(serial));
 }
 
 } // namespace
 
-} // namespace Tessellon::Sqlite
+} // namespace Tessellon::Common

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace Tessellon::Sqlite {
+namespace Tessellon::Common {
 
 /// Turns bytes of UTF-8 into UTF-16 and writes them over the start of buffer, which grows where it must and never
 /// shrinks. What is no UTF-8 becomes U+FFFD, once for each broken sequence; a surrogate coded by itself is kept as that
@@ -16,4 +16,4 @@ std::u16string ToUtf16(std::string_view bytes);
 /// UTF-8 of a text; a lone surrogate becomes the three bytes that ToUtf16 reads back.
 std::string ToUtf8(std::u16string_view text);
 
-} // namespace Tessellon::Sqlite
+} // namespace Tessellon::Common

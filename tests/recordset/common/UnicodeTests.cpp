@@ -1,9 +1,9 @@
-#include "recordset/sqlite/Unicode.h"
+#include "recordset/common/Unicode.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-namespace Tessellon::Sqlite {
+namespace Tessellon::Common {
 
 namespace {
 
@@ -77,4 +77,4 @@ RC_GTEST_PROP(UnicodeProperty, AnyBytes_GiveNoMoreUnitsThanBytes, (const std::st
 
 } // namespace
 
-} // namespace Tessellon::Sqlite
+} // namespace Tessellon::Common

@@ -1,10 +1,10 @@
-#include "recordset/sqlite/Unicode.h"
+#include "recordset/common/Unicode.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 
-namespace Tessellon::Sqlite {
+namespace Tessellon::Common {
 
 namespace {
 
@@ -133,4 +133,4 @@ std::string ToUtf8(std::u16string_view text)
     return bytes;
 }
 
-} // namespace Tessellon::Sqlite
+} // namespace Tessellon::Common
