@@ -1,5 +1,6 @@
 #include "recordset/sqlite/SqliteDatabase.h"
 
+#include "recordset/common/FailureNumbers.h"
 #include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteConnection.h"
 
@@ -11,13 +12,6 @@ namespace Tessellon {
 
 namespace {
 
-constexpr std::int32_t OutOfMemory = 7;
-constexpr std::int32_t Unspecified = -2147467259; // 80004005
-constexpr std::int32_t PermissionDenied = -2147217911; // 80040E09
-constexpr std::int32_t WrongCommand = -2147217900; // 80040E14
-constexpr std::int32_t WaitedInVain = -2147217871; // 80040E31
-constexpr std::int32_t NoSuchTable = -2147217865; // 80040E37
-
 struct Classification {
     std::int32_t Number;
     const char16_t* State;
@@ -27,28 +21,28 @@ Classification Classify(int code, SqliteDatabase::Stage stage, std::u16string_vi
 {
     switch (code & 0xFF) {
     case SQLITE_BUSY:
-    case SQLITE_LOCKED: return {WaitedInVain, u"HYT00"};
-    case SQLITE_NOMEM: return {OutOfMemory, u"HY001"};
+    case SQLITE_LOCKED: return {Common::WaitedInVain, u"HYT00"};
+    case SQLITE_NOMEM: return {Common::OutOfMemory, u"HY001"};
     case SQLITE_CANTOPEN:
-    case SQLITE_NOTADB: return {Unspecified, u"08001"};
+    case SQLITE_NOTADB: return {Common::Unspecified, u"08001"};
     case SQLITE_PERM:
     case SQLITE_AUTH:
-    case SQLITE_READONLY: return {PermissionDenied, u"42000"};
-    case SQLITE_CONSTRAINT: return {Unspecified, u"23000"};
-    case SQLITE_TOOBIG: return {Unspecified, u"22001"};
-    case SQLITE_MISMATCH: return {Unspecified, u"22018"};
-    case SQLITE_INTERRUPT: return {Unspecified, u"HY008"};
+    case SQLITE_READONLY: return {Common::PermissionDenied, u"42000"};
+    case SQLITE_CONSTRAINT: return {Common::Unspecified, u"23000"};
+    case SQLITE_TOOBIG: return {Common::Unspecified, u"22001"};
+    case SQLITE_MISMATCH: return {Common::Unspecified, u"22018"};
+    case SQLITE_INTERRUPT: return {Common::Unspecified, u"HY008"};
     case SQLITE_ERROR:
         if (description.starts_with(u"integer overflow"))
-            return {Unspecified, u"22003"};
+            return {Common::Unspecified, u"22003"};
         if (stage != SqliteDatabase::Stage::Preparing)
-            return {Unspecified, u"HY000"};
+            return {Common::Unspecified, u"HY000"};
         if (description.starts_with(u"no such table"))
-            return {NoSuchTable, u"42S02"};
+            return {Common::NoSuchTable, u"42S02"};
         if (description.starts_with(u"no such column"))
-            return {WrongCommand, u"42S22"};
-        return {WrongCommand, u"42000"};
-    default: return {Unspecified, u"HY000"};
+            return {Common::WrongCommand, u"42S22"};
+        return {Common::WrongCommand, u"42000"};
+    default: return {Common::Unspecified, u"HY000"};
     }
 }
 
@@ -116,7 +110,7 @@ Failure SqliteDatabase::Noted(int code, Stage stage)
 Failure SqliteDatabase::Noted(int code, Stage stage, std::u16string description)
 {
     const Classification classification = Classify(code, stage, description);
-    if (classification.Number == WaitedInVain)
+    if (classification.Number == Common::WaitedInVain)
         description += u" (waited " + Common::ToUtf16(std::to_string(busyMilliseconds_)) + u" milliseconds)";
     if (stage == Stage::Opening)
         description += u": " + path_;
