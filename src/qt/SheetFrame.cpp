@@ -8,6 +8,7 @@
 #include "qt/QtToolkit.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QMessageBox>
 #include <QResizeEvent>
 
@@ -163,6 +164,20 @@ void SheetFrame::PaintNow()
     if (activities_ > 0)
         activitySince_.start();
     view_->repaint(std::exchange(due_, {}));
+}
+
+/// What has uncovered the window is told by an event, and with it would come others, of the user's and of the window's
+/// end. So the picture that is there is shown once more, unasked; only X needs it.
+void SheetFrame::PaintWindow()
+{
+    if (!isWhole_ || !view_->isVisible())
+        return;
+    const QPointer<QWidget> whole = window();
+    QCoreApplication::sendPostedEvents(whole, QEvent::UpdateRequest);
+    if (whole == nullptr || QGuiApplication::platformName() != QStringLiteral("xcb"))
+        return;
+    if (QBackingStore* const picture = whole->backingStore())
+        picture->flush(whole->rect());
 }
 
 /// A widget is made when it is first shown: a sheet may have hundreds of columns, each with an editor of its own.

@@ -85,6 +85,9 @@ public:
     void Invalidate(const GridRectangle& part);
     void Painted(const QRegion& part) { due_ -= part; }
     void PaintNow();
+    /// Paints what is due in the whole window, and shows it again where another has covered it; no other event of the
+    /// window is handled. It goes on behind a widget that deletes this one while it is painted.
+    void PaintWindow();
     void ShowControl(ControlCore& control, Aspect aspect);
     void ShowMessage(const QString& text);
     void Ring();

@@ -1,14 +1,14 @@
 #include "qt/SheetWidget.h"
 
 #include "engine/DefaultProperties.h"
+#include "failure/Frames.h"
 #include "qt/QtLocale.h"
 #include "qt/SheetFrame.h"
 #include "qt/SheetWidgetParts.h"
 #include "qt/Texts.h"
 
+#include <QPointer>
 #include <QResizeEvent>
-
-#include <utility>
 
 namespace Tessellon {
 
@@ -68,13 +68,19 @@ void SheetWidget::changeEvent(QEvent* event)
 }
 
 /// One call of the host's. The painting that it leads to is done in one, and the frame outlives a host that deletes
-/// this widget in one of the call's events.
+/// this widget in one of the call's events. The end of the sheet stops here also where the sheet does not know that it
+/// is called by its host, as in loadProgress.
 template <class Call>
-auto SheetWidget::Ask(const Call& call)
+auto SheetWidget::Ask(const Call& call) -> decltype(call(std::declval<TessellonSheet&>()))
 {
+    using Result = decltype(call(std::declval<TessellonSheet&>()));
     const SheetFrame::Activity activity(*parts_->Frame);
     TessellonSheet& sheet = *parts_->Sheet;
-    return call(sheet);
+    try {
+        return call(sheet);
+    } catch (const SheetEnded&) {
+        return Result();
+    }
 }
 
 // ---- Cells and cursor -----------------------------------------------------------------------------------------------
@@ -247,6 +253,18 @@ double SheetWidget::Summation(int col, bool& success)
 
 void SheetWidget::DataSource(std::shared_ptr<Recordset> recordset, std::shared_ptr<Connection> connection)
 {
+    const auto tell = std::make_shared<const CountedRecordset::Progress>(
+        [widget = QPointer<SheetWidget>(this)](int rows, int records) {
+            if (widget != nullptr)
+                emit widget->loadProgress(rows, records);
+            if (widget != nullptr)
+                widget->parts_->Frame->PaintWindow();
+            // The records of a sheet that has gone are walked no further.
+            if (widget == nullptr)
+                throw SheetEnded();
+        });
+    if (recordset != nullptr)
+        recordset = std::make_shared<CountedRecordset>(std::move(recordset), tell, parts_->Clock);
     Ask([&](auto& sheet) { sheet.DataSource(std::move(recordset), std::move(connection)); });
 }
 

@@ -11,10 +11,12 @@
 #include <QWidget>
 
 #include <memory>
+#include <utility>
 
 namespace Tessellon {
 
 class SheetFrame;
+class TessellonSheet;
 
 /// A data-entry sheet that a host drops on a form: rows and columns in a grid, an editor of the column's kind over the
 /// current cell. It is one tab stop. Several in one window work side by side.
@@ -85,7 +87,7 @@ public:
     QString Maximum(int col, ManipulateType dataType, bool& success);
     double Summation(int col, bool& success);
     /// Fills the sheet: a row for each record, a cell for each field. The connection tells what went wrong; without one
-    /// a failure goes to the host, as an exception of type Failure.
+    /// a failure goes to the host, as an exception of type Failure. A load of more than a second tells loadProgress.
     void DataSource(std::shared_ptr<Recordset> recordset, std::shared_ptr<Connection> connection);
 
     // Design-time properties. Font is QWidget's own: setFont does the same.
@@ -123,6 +125,12 @@ signals:
     void ErrInfo(int ErrNum, const QString& ErrSource, const QString& ErrDesc, const QString& ErrHelpFile,
                  const QString& ErrHelpContext);
 
+    /// How far a load has come that takes more than a second, at most ten times a second: the rows that are filled, 0
+    /// while the records are still counted, and the records that are counted so far. The load ends as DataSource
+    /// returns. Behind the slots the window is painted as it is due; what the user does meanwhile waits for the end of
+    /// the load, and so do timers.
+    void loadProgress(int rows, int records);
+
     /// What the user's key or mouse began has failed in a handler of the host's, and no call waits for it.
     void unhandledFailure(int number, const QString& source, const QString& description);
 
@@ -135,7 +143,7 @@ private:
     struct Parts;
     void ConnectEvents();
     template <class Call>
-    auto Ask(const Call& call);
+    auto Ask(const Call& call) -> decltype(call(std::declval<TessellonSheet&>()));
 
     std::unique_ptr<Parts> parts_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/CountedRecordset.h"
 #include "qt/SheetFrame.h"
 #include "qt/SheetWidget.h"
 #include "shell/TessellonSheet.h"
@@ -15,6 +16,7 @@ struct SheetWidget::Parts {
 
     SheetFrame* const Frame;
     SheetPointer Sheet;
+    CountedRecordset::Clock Clock = &std::chrono::steady_clock::now; ///< By which a load tells how far it has come.
 };
 
 } // namespace Tessellon

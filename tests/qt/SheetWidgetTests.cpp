@@ -20,7 +20,7 @@ protected:
 
 } // namespace
 
-TEST(SheetWidgetClass, HasASignalForEachEvent_AndOneForFailures)
+TEST(SheetWidgetClass, HasASignalForEachEvent_AndItsOwnForFailuresAndForLoads)
 {
     const QStringList expected{
         "AdvanceToNextCell", "ButtonClick",     "Click",     "Compare",      "DatePickerCallbackKeyDown",
@@ -28,7 +28,7 @@ TEST(SheetWidgetClass, HasASignalForEachEvent_AndOneForFailures)
         "EnterCell",         "ErrInfo",         "ExitFocus", "Format",       "KeyDown",
         "KeyPress",          "KeyUp",           "LeaveCell", "MouseDown",    "MouseMove",
         "MouseUp",           "RowColChange",    "Scroll",    "SelChange",    "UseAdvanceToNextCell",
-        "unhandledFailure"};
+        "loadProgress",      "unhandledFailure"};
     QStringList found;
     const QMetaObject& meta = SheetWidget::staticMetaObject;
     for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
