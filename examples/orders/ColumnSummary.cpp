@@ -36,18 +36,6 @@ private:
     bool before_;
 };
 
-const Column* ColumnAt(int col)
-{
-    const auto columns = Columns();
-    return col >= 1 && col <= static_cast<int>(columns.size()) ? &columns[static_cast<std::size_t>(col - 1)] : nullptr;
-}
-
-QString NameOf(int col)
-{
-    const Column* const column = ColumnAt(col);
-    return column != nullptr ? QString::fromLatin1(column->Name) : QString();
-}
-
 /// Dates with the year first and the day last stand in the order of their texts, which compare ten times as quickly.
 ManipulateType ComparedAs(const Column& column)
 {
@@ -63,8 +51,10 @@ QString Quoted(const QString& text)
 
 } // namespace
 
-ColumnSummary::ColumnSummary(SheetWidget& sheet)
+ColumnSummary::ColumnSummary(SheetWidget& sheet, const Columns& columns, const QString& ofNoRows)
     : sheet_(sheet)
+    , columns_(columns)
+    , ofNoRows_(ofNoRows)
 {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &ColumnSummary::Go);
@@ -89,9 +79,9 @@ void ColumnSummary::CellsChanged()
 
 void ColumnSummary::Go()
 {
-    const Column* const column = ColumnAt(col_);
+    const Column* const column = columns_.At(col_);
     if (sheet_.Rows() < 2 || column == nullptr)
-        return Finish(tr("No orders. Ctrl+N makes one."));
+        return Finish(ofNoRows_);
     if (column->Total == Totals::None)
         return Finish(tr("%1: nothing to add up").arg(NameOf(col_)));
     if (due_.empty()) {
@@ -137,8 +127,7 @@ void ColumnSummary::Take(Step step, const Column& column)
         break;
     case Step::Sum: {
         const double sum = sheet_.Summation(col_, success);
-        found_ += success ? tr("sum %1").arg(sheet_.locale().toString(sum, 'f', column.Decimals))
-                          : tr("sum past all numbers");
+        found_ += success ? tr("sum %1").arg(Worded(sum, column)) : tr("sum past all numbers");
         break;
     }
     case Step::Least:
@@ -150,13 +139,25 @@ void ColumnSummary::Take(Step step, const Column& column)
     }
 }
 
+QString ColumnSummary::NameOf(int col) const
+{
+    const Column* const column = columns_.At(col);
+    return column != nullptr ? column->Name : QString();
+}
+
 QString ColumnSummary::Worded(const QString& value, const Column& column) const
 {
     if (column.Total == Totals::Texts)
         return Quoted(value);
     bool isNumber = false;
     const double number = sheet_.locale().toDouble(value, &isNumber);
-    return column.Decimals > 0 && isNumber ? sheet_.locale().toString(number, 'f', column.Decimals) : value;
+    return column.Decimals > 0 && isNumber ? Worded(number, column) : value;
+}
+
+QString ColumnSummary::Worded(double number, const Column& column) const
+{
+    return column.Decimals == AnyDecimals ? sheet_.locale().toString(number, 'g', QLocale::FloatingPointShortest)
+                                          : sheet_.locale().toString(number, 'f', column.Decimals);
 }
 
 } // namespace Orders

@@ -15,6 +15,7 @@ class SheetWidget;
 namespace Orders {
 
 struct Column;
+struct Columns;
 
 /// Sum, minimum and maximum of the current column in words. They are worked out while the user pauses, one at a time,
 /// so that he waits for one walk down the column at most; and the longer the walks take, the longer the pause that they
@@ -23,7 +24,8 @@ class ColumnSummary : public QObject {
     Q_OBJECT
 
 public:
-    explicit ColumnSummary(Tessellon::SheetWidget& sheet);
+    /// Both must outlive this. `ofNoRows` is what is told of a sheet without rows.
+    ColumnSummary(Tessellon::SheetWidget& sheet, const Columns& columns, const QString& ofNoRows);
 
     void CursorMoved(); ///< Costs nothing in the same column.
     void CellsChanged();
@@ -37,9 +39,13 @@ private:
     void Go();
     void Take(Step step, const Column& column);
     void Finish(const QString& text);
+    [[nodiscard]] QString NameOf(int col) const;
     [[nodiscard]] QString Worded(const QString& value, const Column& column) const;
+    [[nodiscard]] QString Worded(double number, const Column& column) const;
 
     Tessellon::SheetWidget& sheet_;
+    const Columns& columns_;
+    const QString ofNoRows_;
     QTimer timer_;
     int col_ = 0;
     std::vector<Step> due_;

@@ -2,8 +2,10 @@
 
 #include "columns/ColDataType.h"
 
+#include <QString>
+
 #include <cstdint>
-#include <span>
+#include <vector>
 
 namespace Tessellon {
 class SheetWidget;
@@ -14,34 +16,36 @@ namespace Orders {
 /// What can be told of a whole column.
 enum class Totals : std::uint8_t { None, Numbers, Dates, Texts };
 
+inline constexpr int AnyDecimals = -1;
+
 struct Column {
-    const char* Name;
-    Tessellon::FieldControlType Kind;
-    const char* Setting; ///< Of the editor: its choices, mask or caption.
-    bool IsHidden;
-    Tessellon::FieldControlAlign Alignment;
-    int Length; ///< Of what may be typed; 0 for any.
-    Tessellon::FieldAutoAdjustType Width;
-    int FirstWidth; ///< In pixels at 96 dots an inch; 0 leaves the usual one.
-    Totals Total;
-    int Decimals; ///< Of its numbers, where they are told.
+    QString Name;
+    Tessellon::FieldControlType Kind = Tessellon::fcTextBox;
+    QString Setting; ///< Of the editor: its choices, mask or caption.
+    bool IsHidden = false;
+    Tessellon::FieldControlAlign Alignment = Tessellon::fcLeft;
+    int Length = 0; ///< Of what may be typed; 0 for any.
+    Tessellon::FieldAutoAdjustType Width = Tessellon::faContent;
+    int FirstWidth = 0; ///< In pixels at 96 dots an inch; 0 leaves the usual one.
+    Totals Total = Totals::Texts;
+    int Decimals = 0; ///< Of its numbers, where they are told.
+
+    bool operator==(const Column&) const = default;
 };
 
-/// Numbers of columns in the sheet.
-inline constexpr int NumberCol = 1;
-inline constexpr int CustomerCol = 2;
-inline constexpr int CityCol = 3;
-inline constexpr int OrderedCol = 4;
-inline constexpr int AmountCol = 5;
-inline constexpr int CurrencyCol = 6;
-
 /// The data columns in the order of the query's fields, the sheet's column 1 first.
-std::span<const Column> Columns();
+struct Columns {
+    std::vector<Column> List;
+    QString DateFormat = QStringLiteral("yyyy-MM-dd");
+    /// The column that holds the key of the record, by which whoever would write back finds it; 0 where none does.
+    int Key = 0;
 
-/// The column that holds the key of the record, by which whoever would write back finds it. It is hidden.
-int KeyCol();
+    [[nodiscard]] const Column* At(int col) const; ///< Null for a column that is none.
+
+    bool operator==(const Columns&) const = default;
+};
 
 /// Declares the columns and builds the grid of them; the cells are empty behind that.
-void DeclareColumns(Tessellon::SheetWidget& sheet);
+void DeclareColumns(Tessellon::SheetWidget& sheet, const Columns& columns);
 
 } // namespace Orders

@@ -7,9 +7,12 @@
 #include "qt/SheetWidget.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLocale>
 #include <QSaveFile>
 #include <QScreen>
+#include <QThread>
+#include <QWindow>
 
 #include <cstdio>
 #include <cstdlib>
@@ -103,9 +106,10 @@ private:
 
 void Draw(const Options& options, char** arguments)
 {
-    const Source source = OpenSource(options);
+    const std::filesystem::path database = DatabaseOf(options);
+    const Source source = OpenDatabase(database);
     // Ahead of the desktop, which has threads.
-    const BareLoopCost bare = RunBareLoopApart(source.Path, Query);
+    const BareLoopCost bare = RunBareLoopApart(database, Query);
 
     const Desktop desktop(arguments);
     OrdersWindow window;
@@ -116,23 +120,37 @@ void Draw(const Options& options, char** arguments)
     window.show();
     const double seconds = window.Load(source);
     if (!window.LoadFailure().empty())
-        throw std::runtime_error("cannot read " + source.Path.string() + ": " + window.LoadFailure());
+        throw std::runtime_error("cannot read " + database.string() + ": " + window.LoadFailure());
     const QImage picture = PictureOfAnEdit(window);
     window.Log().WriteCells();
     SavePicture(picture, *options.Picture);
     PrintCosts(seconds, bare);
 }
 
+/// A load lets no event in, not even the one by which the window is first painted.
+void AwaitPicture(const QWidget& window)
+{
+    constexpr int most = 2'000;
+    constexpr int step = 5;
+    QElapsedTimer timer;
+    timer.start();
+    while (!window.windowHandle()->isExposed() && timer.elapsed() < most) {
+        QThread::msleep(step);
+        QApplication::processEvents();
+    }
+}
+
 int Show(const Options& options, char** arguments)
 {
     const Desktop desktop(arguments);
-    const Source source = OpenSource(options);
+    const Source source = OpenDatabase(DatabaseOf(options));
     OrdersWindow window;
     if (options.Log)
         window.Log().WriteInto(*options.Log);
     constexpr QSize frame(20, 60);
     window.resize(window.size().boundedTo(window.screen()->availableSize() - frame));
     window.show();
+    AwaitPicture(window);
     window.Load(source);
     const int status = QApplication::exec();
     window.Log().WriteCells();

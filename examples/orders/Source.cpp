@@ -1,5 +1,7 @@
 #include "orders/Source.h"
 
+#include "orders/Options.h"
+#include "orders/OrderColumns.h"
 #include "orders/OrdersDatabase.h"
 #include "platform/Failure.h"
 #include "recordset/common/Unicode.h"
@@ -79,26 +81,29 @@ Source OpenDatabase(const std::filesystem::path& path)
 {
     CheckFile(path);
     Source source;
-    source.Path = path;
-    source.Connection = std::make_shared<Tessellon::SqliteConnection>();
+    source.Name = QString::fromStdU16String(path.filename().u16string());
+    source.Layout = OrderColumns();
+    source.OpenAgain = [path] { return OpenDatabase(path); };
+    const auto connection = std::make_shared<Tessellon::SqliteConnection>();
+    source.Connection = connection;
     try {
-        source.Connection->Connect(source.Path.u16string());
-        source.Records = source.Connection->Query(Tessellon::Common::ToUtf16(Query));
+        connection->Connect(path.u16string());
+        source.Records = connection->Query(Tessellon::Common::ToUtf16(Query));
     } catch (const Tessellon::Failure& failure) {
-        const auto& errors = source.Connection->Errors();
+        const auto& errors = connection->Errors();
         std::string words = Tessellon::Common::ToUtf8(failure.Description);
         // Of a file that does not open, the path stands there already.
-        if (const std::size_t at = words.find(": " + source.Path.string()); at != std::string::npos)
+        if (const std::size_t at = words.find(": " + path.string()); at != std::string::npos)
             words.resize(at);
-        throw std::runtime_error("cannot read " + source.Path.string() + ": " + words + "; " +
+        throw std::runtime_error("cannot read " + path.string() + ": " + words + "; " +
                                  Advice(errors.empty() ? 0 : errors.front().NativeError));
     }
     return source;
 }
 
-Source OpenSource(const Options& options)
+std::filesystem::path DatabaseOf(const Options& options)
 {
-    return OpenDatabase(options.Database ? *options.Database : MadeDatabase(options.Rows.value_or(UsualCount)));
+    return options.Database ? *options.Database : MadeDatabase(options.Rows.value_or(UsualCount));
 }
 
 } // namespace Orders

@@ -1,29 +1,31 @@
 #pragma once
 
-#include "orders/Options.h"
+#include "orders/Columns.h"
+#include "platform/Recordset.h"
+
+#include <QString>
 
 #include <filesystem>
+#include <functional>
 #include <memory>
-
-namespace Tessellon {
-class SqliteConnection;
-class SqliteRecordset;
-} // namespace Tessellon
 
 namespace Orders {
 
-/// Where the orders come from.
+struct Options;
+
+/// Where the rows of a sheet come from.
 struct Source {
-    std::filesystem::path Path;
-    std::shared_ptr<Tessellon::SqliteConnection> Connection;
-    std::shared_ptr<Tessellon::SqliteRecordset> Records;
+    QString Name; ///< As people know it; nothing in it is secret.
+    std::shared_ptr<Tessellon::Connection> Connection;
+    std::shared_ptr<Tessellon::Recordset> Records;
+    Columns Layout;
+    std::function<Source()> OpenAgain; ///< Fails as the first opening did.
 };
 
 /// Opens a database of orders. What keeps it from being read is a std::runtime_error of one line that says what to do.
 Source OpenDatabase(const std::filesystem::path& path);
 
-/// Opens the database that the options name, or makes one in the user's cache folder. Failures are as
-/// of OpenDatabase; a lock of another program is waited for some seconds.
-Source OpenSource(const Options& options);
+/// The database that the options name, or one that is made in the user's cache folder. Failures are as of OpenDatabase.
+std::filesystem::path DatabaseOf(const Options& options);
 
 } // namespace Orders

@@ -1,15 +1,12 @@
-#include "orders/Columns.h"
 #include "orders/FindBar.h"
-#include "orders/OrdersWindow.h"
+#include "orders/SheetWindow.h"
 #include "qt/SheetWidget.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTimer>
 
 #include <algorithm>
 #include <exception>
@@ -19,7 +16,7 @@ namespace Orders {
 using namespace Tessellon;
 
 template <class Action>
-QAction* OrdersWindow::AddCommand(QMenu& menu, const QString& text, const QKeySequence& keys, Action action)
+QAction* SheetWindow::AddCommand(QMenu& menu, const QString& text, const QKeySequence& keys, Action action)
 {
     QAction* const command = menu.addAction(text);
     command->setShortcut(keys);
@@ -28,24 +25,24 @@ QAction* OrdersWindow::AddCommand(QMenu& menu, const QString& text, const QKeySe
 }
 
 /// None of the keys is one that an editor has a use for.
-void OrdersWindow::BuildMenus()
+void SheetWindow::BuildMenus(const QString& menu)
 {
-    QMenu& orders = *menuBar()->addMenu(tr("&Orders"));
-    AddCommand(orders, tr("&New behind this row"), QKeySequence(tr("Ctrl+N")),
+    QMenu& rows = *menuBar()->addMenu(menu);
+    AddCommand(rows, tr("&New behind this row"), QKeySequence(tr("Ctrl+N")),
                [this] { AddRow(sheet_->Rows() > 1 ? sheet_->Row() : 0); });
-    AddCommand(orders, tr("New at the &end"), QKeySequence(tr("Ctrl+Shift+N")), [this] { AddRow(sheet_->Rows() - 1); });
-    AddCommand(orders, tr("&Delete this row…"), QKeySequence(tr("Ctrl+-")), [this] { DeleteRow(); });
-    orders.addSeparator();
-    AddCommand(orders, tr("&Reload"), QKeySequence(tr("F5")), [this] { Reload(); });
-    orders.addSeparator();
-    AddCommand(orders, tr("&Quit"), QKeySequence(tr("Ctrl+Q")), [this] { close(); });
+    AddCommand(rows, tr("New at the &end"), QKeySequence(tr("Ctrl+Shift+N")), [this] { AddRow(sheet_->Rows() - 1); });
+    AddCommand(rows, tr("&Delete this row…"), QKeySequence(tr("Ctrl+-")), [this] { DeleteRow(); });
+    rows.addSeparator();
+    AddCommand(rows, tr("&Reload"), QKeySequence(tr("F5")), [this] { Reload(); });
+    rows.addSeparator();
+    AddCommand(rows, tr("&Quit"), QKeySequence(tr("Ctrl+Q")), [this] { close(); });
 
     QMenu& find = *menuBar()->addMenu(tr("&Find"));
     AddCommand(find, tr("&Find in this column…"), QKeySequence(tr("Ctrl+F")), [this] { OpenFindBar(); });
     AddCommand(find, tr("Find &next"), QKeySequence(tr("F3")), [this] { FindNext(); });
-    connect(findBar_, &FindBar::FindNext, this, &OrdersWindow::FindNext);
+    connect(findBar_, &FindBar::FindNext, this, &SheetWindow::FindNext);
     connect(findBar_, &FindBar::TextEdited, this, [this] { found_.clear(); });
-    connect(findBar_, &FindBar::Closed, this, &OrdersWindow::CloseFindBar);
+    connect(findBar_, &FindBar::Closed, this, &SheetWindow::CloseFindBar);
 
     QMenu& view = *menuBar()->addMenu(tr("&View"));
     AddCommand(view, tr("&Colours of the bands…"), QKeySequence(tr("Ctrl+Shift+B")), [this] { ChooseColors(); });
@@ -60,7 +57,7 @@ void OrdersWindow::BuildMenus()
 
 /// Takes the focus out of the sheet as a press elsewhere would: what is half typed in a date is taken, and the host's
 /// EditorValidate may keep the user where he is.
-bool OrdersWindow::LeaveCell()
+bool SheetWindow::LeaveCell()
 {
     if (sheet_->isAncestorOf(QApplication::focusWidget()))
         setFocus();
@@ -68,16 +65,19 @@ bool OrdersWindow::LeaveCell()
 }
 
 /// Back into the sheet, with the editor of that cell up. Not every desktop brings the window back behind a box.
-void OrdersWindow::EnterCell(int row, int col)
+void SheetWindow::EnterCell(int row, int col)
 {
     if (!isActiveWindow())
         activateWindow();
     bool hasScrolled = false;
     const auto listening = connect(sheet_, &SheetWidget::Scroll, this, [&] { hasScrolled = true; });
     const auto enter = [&] {
-        // A move to the cell that is current already would enter nothing; the first column has no editor of its own.
-        sheet_->Col(NumberCol);
-        sheet_->Row(std::min(row, sheet_->Rows() - 1));
+        // A move to the cell that is current already would enter nothing.
+        const int there = std::min(row, sheet_->Rows() - 1);
+        sheet_->Col(col > 1 ? 1 : 2);
+        if (sheet_->Col() == col)
+            sheet_->Row(there > 1 ? 1 : 2);
+        sheet_->Row(there);
         sheet_->Col(col);
     };
     enter();
@@ -89,13 +89,13 @@ void OrdersWindow::EnterCell(int row, int col)
 }
 
 /// Until the user goes on, or some seconds.
-void OrdersWindow::Tell(const QString& message)
+void SheetWindow::Tell(const QString& message)
 {
     constexpr int milliseconds = 8'000;
     statusBar()->showMessage(message, milliseconds);
 }
 
-bool OrdersWindow::Ask(const QString& title, const QString& question, const QString& details, const QString& yes)
+bool SheetWindow::Ask(const QString& title, const QString& question, const QString& details, const QString& yes)
 {
     QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Cancel, this);
     box.setInformativeText(details);
@@ -105,7 +105,7 @@ bool OrdersWindow::Ask(const QString& title, const QString& question, const QStr
     return box.clickedButton() == yesButton;
 }
 
-void OrdersWindow::AddRow(int behind)
+void SheetWindow::AddRow(int behind)
 {
     if (!LeaveCell())
         return;
@@ -116,7 +116,14 @@ void OrdersWindow::AddRow(int behind)
     Tell(tr("Row %L1 is new. It is kept in this window only.").arg(sheet_->Row()));
 }
 
-void OrdersWindow::DeleteRow()
+QString SheetWindow::NameOfRow(int row) const
+{
+    constexpr qsizetype most = 60;
+    const QString name = sheet_->TextMatrix(row, FirstTypedCol()).simplified();
+    return name.size() > most ? name.left(most) + u'…' : name;
+}
+
+void SheetWindow::DeleteRow()
 {
     if (!LeaveCell())
         return;
@@ -124,14 +131,13 @@ void OrdersWindow::DeleteRow()
     const int col = sheet_->Col();
     QString message = tr("There is no row to delete.");
     if (sheet_->Rows() > 1) {
-        const QString order =
-            tr("%1, %2").arg(sheet_->TextMatrix(row, NumberCol), sheet_->TextMatrix(row, CustomerCol));
+        const QString name = NameOfRow(row);
         message.clear();
-        if (Ask(tr("Delete a row"), tr("Delete row %L1?").arg(row), tr("%1. The database keeps the order.").arg(order),
+        if (Ask(tr("Delete a row"), tr("Delete row %L1?").arg(row), tr("%1. The database keeps it.").arg(name),
                 tr("&Delete"))) {
             sheet_->Delete(row);
             edits_.Note();
-            message = tr("Row %L1 is deleted: %2.").arg(row).arg(order);
+            message = tr("Row %L1 is deleted: %2.").arg(row).arg(name);
         }
     }
     EnterCell(row, col);
@@ -139,7 +145,7 @@ void OrdersWindow::DeleteRow()
     Tell(message);
 }
 
-void OrdersWindow::Reload()
+void SheetWindow::Reload()
 {
     if (!LeaveCell())
         return;
@@ -147,13 +153,13 @@ void OrdersWindow::Reload()
     const int col = sheet_->Col();
     QString message;
     if (!edits_.HasEdits() ||
-        Ask(tr("Reload"), tr("Load the orders again?"),
+        Ask(tr("Reload"), tr("Load the %1 again?").arg(rows_),
             tr("What was typed, added and deleted here since the last load is lost."), tr("&Reload"))) {
-        const QString key = sheet_->TextMatrix(row, KeyCol());
+        const QString key = sheet_->TextMatrix(row, columns_.Key);
         try {
-            Load(OpenDatabase(path_));
-            message = tr("%L1 orders were loaded.").arg(sheet_->Rows() - 1);
-            if (const int found = sheet_->SearchCol(KeyCol(), key); found > 0)
+            Load(openAgain_());
+            message = tr("%L1 %2 were loaded.").arg(sheet_->Rows() - 1).arg(rows_);
+            if (const int found = sheet_->SearchCol(columns_.Key, key); found > 0)
                 row = found;
         } catch (const std::exception& failure) {
             QMessageBox::critical(this, tr("Reload"), QString::fromUtf8(failure.what()));
@@ -164,7 +170,7 @@ void OrdersWindow::Reload()
     Tell(message);
 }
 
-void OrdersWindow::OpenFindBar()
+void SheetWindow::OpenFindBar()
 {
     if (!LeaveCell())
         return;
@@ -174,14 +180,14 @@ void OrdersWindow::OpenFindBar()
     findBar_->Open();
 }
 
-void OrdersWindow::CloseFindBar()
+void SheetWindow::CloseFindBar()
 {
     findBar_->hide();
     sheet_->setGrabsFocus(true);
     EnterCell(sheet_->Row(), sheet_->Col());
 }
 
-void OrdersWindow::FindNext()
+void SheetWindow::FindNext()
 {
     const bool isInBar = findBar_->HasFocusInside();
     const QString text = findBar_->Text();
@@ -203,7 +209,7 @@ void OrdersWindow::FindNext()
                  : tr("“%1” is not in %2.").arg(text, sheet_->ColumnHeader(col)));
 }
 
-void OrdersWindow::ChooseColors()
+void SheetWindow::ChooseColors()
 {
     if (!LeaveCell())
         return;
@@ -218,19 +224,7 @@ void OrdersWindow::ChooseColors()
     EnterCell(sheet_->Row(), sheet_->Col());
 }
 
-/// What the button of a row does. Enter on it is on the way through the row and goes on to the next.
-void OrdersWindow::CopySlip()
-{
-    const int row = sheet_->Row();
-    const auto cell = [&](int col) { return sheet_->TextMatrix(row, col); };
-    QGuiApplication::clipboard()->setText(tr("Order %1 of %2\n%3, %4\n%5 %6\n")
-                                              .arg(cell(NumberCol), cell(OrderedCol), cell(CustomerCol), cell(CityCol),
-                                                   cell(AmountCol), cell(CurrencyCol)));
-    // The move that follows would take a message down that is told now.
-    QTimer::singleShot(0, this, [this, row] { Tell(tr("The slip of row %L1 is on the clipboard.").arg(row)); });
-}
-
-void OrdersWindow::ExplainKeys()
+void SheetWindow::ExplainKeys()
 {
     QString rows;
     for (const QAction* const menu : menuBar()->actions()) {
@@ -250,7 +244,8 @@ void OrdersWindow::ExplainKeys()
     QMessageBox::information(this, tr("Keys and storage"),
                              QStringLiteral("<table>%1</table><p>%2</p>")
                                  .arg(rows, tr("The database is only read. What is typed, added and deleted here "
-                                               "lasts until the orders are loaded again or the window is closed.")));
+                                               "lasts until the %1 are loaded again or the window is closed.")
+                                                .arg(rows_)));
     EnterCell(sheet_->Row(), sheet_->Col());
 }
 
