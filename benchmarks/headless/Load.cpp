@@ -2,9 +2,9 @@
 // with nothing but SQLite's own calls.
 
 #include "orders/BareLoop.h"
+#include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteConnection.h"
 #include "recordset/sqlite/SqliteRecordset.h"
-#include "recordset/sqlite/Unicode.h"
 #include "support/Figures.h"
 #include "support/HeadlessSheet.h"
 #include "support/Records.h"
@@ -53,8 +53,8 @@ void WalkOnly(const std::string& database)
     const HeadlessSheet headless;
     // A few, so that the code of the load is in memory here too.
     Load(*headless.Sheet, database, " LIMIT 100");
-    const auto connection = SqliteConnection::Open(Sqlite::ToUtf16(database));
-    const auto records = connection->Query(Sqlite::ToUtf16(query));
+    const auto connection = SqliteConnection::Open(Common::ToUtf16(database));
+    const auto records = connection->Query(Common::ToUtf16(query));
     std::int64_t rows = 0;
     for (; !records->AtEnd(); records->MoveNext())
         ++rows;
@@ -77,7 +77,7 @@ double ChecksumOf(const std::string& database)
     std::u16string text;
     while (sqlite3_step(statement) == SQLITE_ROW)
         for (const int field : plainFields)
-            checksum.Add(Sqlite::ToUtf16(reinterpret_cast<const char*>(sqlite3_column_text(statement, field)), text));
+            checksum.Add(Common::ToUtf16(reinterpret_cast<const char*>(sqlite3_column_text(statement, field)), text));
     sqlite3_finalize(statement);
     sqlite3_close(opened);
     return checksum.Value();

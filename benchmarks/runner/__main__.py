@@ -8,7 +8,7 @@ import machine
 import table
 from bench import Bench
 from programs import CannotMeasure
-from rows import WORKS, load  # noqa: F401  Each theme registers its rows.
+from rows import WORKS, load, calls, screen, starts  # noqa: F401  Each theme registers its rows.
 
 
 def main():

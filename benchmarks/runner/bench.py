@@ -13,12 +13,14 @@ import screen
 
 class Bench:
     def __init__(self, root: pathlib.Path, quick: bool):
+        self.root = root
         self.programs = root / "build" / "bin"
         self.quick = quick
         self.many = 100_000 if quick else 1_000_000
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="bench-"))
         self.databases = {}
         self.display = None
+        self.in_windows = None  # What the windows of records told.
 
     def close(self):
         with contextlib.suppress(Exception):

@@ -1,5 +1,6 @@
 """Runs the programs that measure, each in a process of its own."""
 
+import json
 import subprocess
 
 
@@ -34,3 +35,19 @@ def check_same(name, *sides):
     values = {value for side in sides for value in side[name]}
     if len(values) != 1:
         raise CannotMeasure(f"the sides differ in their {name}: {sorted(values)}")
+
+
+def calls(command, names, repetitions):
+    """Runs benchmarks of Google Benchmark in turn. For each, the time of one of the things that it does, of all runs."""
+    done = subprocess.run([*map(str, command), f"--benchmark_filter=^({'|'.join(names)})(/|$)",
+                           f"--benchmark_repetitions={repetitions}", "--benchmark_enable_random_interleaving=true",
+                           "--benchmark_min_time=0.1", "--benchmark_format=json"],
+                          stdin=subprocess.DEVNULL, capture_output=True, text=True, timeout=900)
+    if done.returncode != 0:
+        raise CannotMeasure(f"{command[0]} ended with {done.returncode}: {done.stderr.strip()}")
+    told = {}
+    for entry in json.loads(done.stdout)["benchmarks"]:
+        if entry["run_type"] == "iteration":
+            name = entry["run_name"].split("/manual_time")[0].split("/iterations")[0].split("/min_warmup")[0]
+            told.setdefault(name, []).append(entry["each"])
+    return told

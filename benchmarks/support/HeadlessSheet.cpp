@@ -2,9 +2,9 @@
 
 #include "engine/DefaultProperties.h"
 #include "headless/HeadlessToolkit.h"
+#include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteConnection.h"
 #include "recordset/sqlite/SqliteRecordset.h"
-#include "recordset/sqlite/Unicode.h"
 #include "support/Records.h"
 
 namespace Bench {
@@ -32,8 +32,8 @@ HeadlessSheet::HeadlessSheet()
 
 void Load(TessellonSheet& sheet, const std::string& database, const std::string& limit)
 {
-    const auto connection = SqliteConnection::Open(Sqlite::ToUtf16(database));
-    sheet.DataSource(connection->Query(Sqlite::ToUtf16(query + limit)), connection);
+    const auto connection = SqliteConnection::Open(Common::ToUtf16(database));
+    sheet.DataSource(connection->Query(Common::ToUtf16(query + limit)), connection);
 }
 
 } // namespace Bench

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "qt/SheetWidget.h"
+
+#include <QScrollBar>
+
+#include <string>
+
+namespace Bench {
+
+/// Declares the columns of the records, each of the same width; with text boxes only where they are held against
+/// peers, whose cells are edited in line edits all.
+void DeclareColumns(Tessellon::SheetWidget& sheet, bool asTexts);
+void Load(Tessellon::SheetWidget& sheet, const std::string& database);
+int WidthOf(const Tessellon::SheetWidget& sheet, int col); ///< In twips.
+/// The widget of the cells.
+QWidget& CellsOf(const Tessellon::SheetWidget& sheet);
+QScrollBar& VerticalBarOf(const Tessellon::SheetWidget& sheet);
+
+// What the program measures.
+void MeasureRecords(const std::string& database);
+void MeasureBands(const std::string& database);
+void MeasureContent(const std::string& database, bool isFitted);
+void MeasureColumns();
+void MeasureWidth(int columns);
+
+} // namespace Bench
