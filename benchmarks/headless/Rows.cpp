@@ -1,7 +1,7 @@
 // Add and Delete. What an iteration adds is taken away again, and the other way round, while nobody measures.
 
 #include "headless/Sheets.h"
-#include <ctime>
+#include "support/Figures.h"
 
 namespace Bench {
 namespace {
@@ -11,21 +11,11 @@ using namespace Tessellon;
 constexpr std::int32_t fewRows = 10;
 constexpr std::int32_t someRows = 100'000;
 
-/// Of the processor, as in the benchmarks that measure themselves: others that run on the machine do not count.
-double ProcessorTime()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-}
-
 template <class Measured, class Undone>
 void Measure(benchmark::State& state, const Measured& measured, const Undone& undone)
 {
     for ([[maybe_unused]] auto unused : state) {
-        const double start = ProcessorTime();
-        measured();
-        state.SetIterationTime(ProcessorTime() - start);
+        state.SetIterationTime(ProcessorSecondsOf(measured));
         undone();
     }
 }

@@ -1,5 +1,5 @@
-// bench_sheet records|bands|content|fitted DATABASE, bench_sheet columns, bench_sheet width COLUMNS: a sheet in a
-// window on the screen.
+// bench_sheet records|bands|content|fitted|progress DATABASE, bench_sheet columns, bench_sheet width COLUMNS: a sheet
+// in a window on the screen.
 
 #include "screen/Sheet.h"
 
@@ -19,6 +19,8 @@ int Measure(const std::string& what, const std::string& argument)
         Bench::MeasureBands(argument);
     else if (what == "content" || what == "fitted")
         Bench::MeasureContent(argument, what == "fitted");
+    else if (what == "progress")
+        Bench::MeasureProgress(argument);
     else if (what == "columns")
         Bench::MeasureColumns();
     else if (what == "width")

@@ -21,6 +21,7 @@ QScrollBar& VerticalBarOf(const Tessellon::SheetWidget& sheet);
 void MeasureRecords(const std::string& database);
 void MeasureBands(const std::string& database);
 void MeasureContent(const std::string& database, bool isFitted);
+void MeasureProgress(const std::string& database);
 void MeasureColumns();
 void MeasureWidth(int columns);
 

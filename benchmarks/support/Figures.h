@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
+#include <ctime>
 #include <vector>
 
 namespace Bench {
@@ -25,6 +26,22 @@ double SecondsOf(const Work& work)
     const double start = Now();
     work();
     return Now() - start;
+}
+
+/// Of the processor: what else runs on the machine does not count.
+inline double ProcessorNow()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+template <class Work>
+double ProcessorSecondsOf(const Work& work)
+{
+    const double start = ProcessorNow();
+    work();
+    return ProcessorNow() - start;
 }
 
 inline double Median(std::vector<double> values)

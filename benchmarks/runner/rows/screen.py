@@ -98,3 +98,11 @@ def content(bench):
                               bench.environment())
     more = (statistics.median(fitted["seconds"]) - statistics.median(plain["seconds"])) / fitted["rows"][0]
     yield below("A faContent column in the load, a row more", [more], 100 * NANO)
+
+
+@work("progress", "what it costs that a load tells how far it is")
+def progress(bench):
+    (told,) = alternate(1 if bench.quick else bench.heavy(),
+                        [bench.program("bench_sheet", "progress", bench.database(bench.many))], bench.environment())
+    ratio = statistics.median(told["ratio"])
+    yield Line("A load that tells how far it has come", "", "one that does not", ratio, "ratio at most 1.01", ratio <= 1.01)
