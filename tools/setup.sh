@@ -9,6 +9,9 @@ program=(
     ninja-build       # runs it
     g++               # C++20
     libsqlite3-dev    # the database of the example, and its recordset
+    unixodbc-dev      # records through ODBC
+    odbc-postgresql   # its driver for PostgreSQL servers
+    libsqliteodbc     # and for SQLite databases
     qt6-base-dev      # the desktop platform
     fonts-dejavu-core # a font to draw with where no desktop is installed
 )

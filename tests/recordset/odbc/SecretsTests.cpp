@@ -1,0 +1,53 @@
+#include "recordset/odbc/Secrets.h"
+
+#include <gtest/gtest.h>
+
+namespace Tessellon::Odbc {
+
+namespace {
+
+std::u16string Shown(std::u16string_view connectionText, std::u16string words)
+{
+    return Masked(std::move(words), SecretsOf(connectionText));
+}
+
+TEST(Secrets, AreTheValuesOfPasswords_InWhateverLettersAndWithBlanks)
+{
+    for (const std::u16string key :
+         {u"PWD", u"pwd", u" Password ", u"SSLPassword", u"PASSWD", u"Client_Secret", u"AccessToken", u"passphrase"})
+        EXPECT_EQ(Shown(u"UID=ada;" + key + u"= hunter2 ;Port=1", u"ada said hunter2 at 1, hunter2"),
+                  u"ada said *** at 1, ***");
+}
+
+TEST(Secrets, OtherValues_Stay)
+{
+    EXPECT_TRUE(SecretsOf(u"DSN=orders;UID=ada;Server=/tmp").empty());
+    EXPECT_TRUE(SecretsOf(u"").empty());
+    EXPECT_TRUE(SecretsOf(u"PWD").empty());
+    EXPECT_TRUE(SecretsOf(u"PWD=").empty());
+    EXPECT_TRUE(SecretsOf(u"PWD=;UID=ada").empty());
+    EXPECT_TRUE(SecretsOf(u"PWD={};UID=ada").empty());
+}
+
+TEST(Secrets, InBraces_AreKnownWithAndWithoutThem)
+{
+    const std::u16string text = u"Driver={A; PWD=no};PWD={a;b}}c=};UID=ada";
+    EXPECT_EQ(Shown(text, u"failed with a;b}c= here"), u"failed with *** here");
+    EXPECT_EQ(Shown(text, u"failed with PWD={a;b}}c=};"), u"failed with PWD=***;");
+    EXPECT_EQ(Shown(text, u"no ada"), u"no ada");
+    EXPECT_EQ(Shown(u"PWD={never closed", u"never closed"), u"***");
+}
+
+TEST(Secrets, ThatArePartsOfOthers_AreMaskedWhole)
+{
+    EXPECT_EQ(Shown(u"PWD=abc;SSLPassword=xabcx", u"xabcx abc"), u"*** ***");
+}
+
+TEST(Secrets, ThatHoldAsterisks_EndTheMasking)
+{
+    EXPECT_EQ(Shown(u"PWD=*", u"a*b**"), u"a***b******");
+}
+
+} // namespace
+
+} // namespace Tessellon::Odbc
