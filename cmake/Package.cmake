@@ -56,6 +56,8 @@ tessellon_part(Headless OF tessellon_sheet tessellon_engine tessellon_headless t
     HEADERS shell/TessellonSheet.h engine/DefaultProperties.h headless/HeadlessToolkit.h headless/HeadlessHand.h)
 tessellon_part(Sqlite OF tessellon_sqlite LINK PRIVATE SQLite::SQLite3
     HEADERS recordset/sqlite/SqliteConnection.h recordset/sqlite/SqliteRecordset.h)
+tessellon_part(Odbc OF tessellon_odbc LINK PRIVATE ODBC::ODBC
+    HEADERS recordset/odbc/OdbcConnection.h recordset/odbc/OdbcRecordset.h)
 if(TESSELLON_QT)
     tessellon_part(Qt OF tessellon_qt LINK PUBLIC Qt6::Widgets HEADERS qt/SheetWidget.h)
 endif()
