@@ -8,6 +8,7 @@ import pathlib
 import re
 import sys
 
+SOURCES = ("recordset/odbc/OdbcConnection.h", "recordset/odbc/OdbcRecordset.h")
 HEADERS = ("columns/ColDataType.h", "data/ManipulateType.h", "view/ColorType.h")
 PROGRAM = """#include "engine/DefaultProperties.h"
 #include "engine/EnginePlatform.h"
@@ -58,6 +59,8 @@ def missing(root):
     told = set(re.findall(r"`(\w+)", reference))
     header = (root / "src/shell/TessellonSheet.h").read_text()
     wanted = public_members(header)
+    for file in SOURCES:
+        wanted += public_members((root / "src" / file).read_text())
     for file in HEADERS:
         wanted += enumerations((root / "src" / file).read_text())
     return wanted, [name for name in wanted if name not in told]
