@@ -12,7 +12,7 @@ namespace Bench {
 
 namespace {
 
-constexpr int advances = 180;
+constexpr int advances = 90;
 
 void TellMemory(const char* name)
 {

@@ -17,9 +17,9 @@ constexpr int width = 1000;
 constexpr int height = 700;
 constexpr int rowPixels = 21;
 constexpr int columnPixels = 95;
-constexpr int jumps = 200;
+constexpr int jumps = 100;
 constexpr int seenPages = 5;
-constexpr int advances = 180;
+constexpr int advances = 90;
 
 void Demand(bool isSo, const char* what)
 {

@@ -10,6 +10,9 @@ from bench import Bench
 from programs import CannotMeasure
 from rows import WORKS, load, calls, screen, starts  # noqa: F401  Each theme registers its rows.
 
+QUICK = """The quick one: 100,000 rows stand for 1,000,000 and one or two runs for three or five, so the figures are rough and
+decide nothing. Left out: loads of more than 100,000 rows, and wxGrid."""
+
 
 def main():
     parser = argparse.ArgumentParser(prog="./bench")
@@ -36,7 +39,7 @@ def measure(wanted):
     try:
         print(machine.described(root / "build"))
         if wanted.quick:
-            print("The quick one: fewer rows and runs, so the figures are rough and decide nothing.")
+            print(QUICK)
         print("\n" + table.heading(wanted.markdown), flush=True)
         for name, (_, lines) in WORKS.items():
             if wanted.names and name not in wanted.names:

@@ -6,9 +6,9 @@ namespace Bench {
 
 namespace {
 
-constexpr int mostPages = 200;
+constexpr int mostPages = 100;
 constexpr int seenPages = 5;
-constexpr int seenJumps = 200;
+constexpr int seenJumps = 100;
 
 } // namespace
 

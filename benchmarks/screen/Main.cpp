@@ -1,4 +1,4 @@
-// bench_sheet records|bands|content|fitted|progress DATABASE, bench_sheet columns, bench_sheet width COLUMNS: a sheet
+// bench_sheet records|bands|content|progress DATABASE, bench_sheet columns, bench_sheet width COLUMNS: a sheet
 // in a window on the screen.
 
 #include "screen/Sheet.h"
@@ -17,8 +17,8 @@ int Measure(const std::string& what, const std::string& argument)
         Bench::MeasureRecords(argument);
     else if (what == "bands")
         Bench::MeasureBands(argument);
-    else if (what == "content" || what == "fitted")
-        Bench::MeasureContent(argument, what == "fitted");
+    else if (what == "content")
+        Bench::MeasureContent(argument);
     else if (what == "progress")
         Bench::MeasureProgress(argument);
     else if (what == "columns")

@@ -18,7 +18,7 @@ using namespace Tessellon;
 namespace {
 
 constexpr int pages = 300;
-constexpr int advances = 180;
+constexpr int advances = 90;
 constexpr int strokes = 200;
 
 void ScrollByPages(const SheetWidget& sheet)

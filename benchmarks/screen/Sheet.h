@@ -20,7 +20,7 @@ QScrollBar& VerticalBarOf(const Tessellon::SheetWidget& sheet);
 // What the program measures.
 void MeasureRecords(const std::string& database);
 void MeasureBands(const std::string& database);
-void MeasureContent(const std::string& database, bool isFitted);
+void MeasureContent(const std::string& database);
 void MeasureProgress(const std::string& database);
 void MeasureColumns();
 void MeasureWidth(int columns);

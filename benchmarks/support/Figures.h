@@ -53,6 +53,21 @@ inline double Median(std::vector<double> values)
     return values.size() % 2 != 0 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
+/// Does the same work in two ways, so often in turn, and tells what the processor needed at the median: "with" the
+/// thing in question and "without" it.
+template <class With, class Without>
+void TellInTurn(int pairs, const With& with, const Without& without)
+{
+    std::vector<double> secondsWith;
+    std::vector<double> secondsWithout;
+    for (int i = 0; i < pairs; ++i) {
+        secondsWithout.push_back(ProcessorSecondsOf(without));
+        secondsWith.push_back(ProcessorSecondsOf(with));
+    }
+    Tell("with", Median(secondsWith));
+    Tell("without", Median(secondsWithout));
+}
+
 /// What cells hold, in one number: the same for texts that are the same, in any order of the cells.
 class Checksum {
 public:
