@@ -26,7 +26,7 @@ qreal Placed(qreal begin, qreal room, qreal size, int third)
 
 } // namespace
 
-CellPainter::CellPainter(QPainter& painter, ShapedTextCache& texts, const QPalette& palette, const DevicePixels& pixels)
+CellPainter::CellPainter(QPainter& painter, CellTexts& texts, const QPalette& palette, const DevicePixels& pixels)
     : painter_(painter)
     , texts_(texts)
     , palette_(palette)
@@ -54,7 +54,12 @@ void CellPainter::Paint(const CellLook& cell)
     } else if (cell.Color) {
         background = ColorFrom(*cell.Color, palette_);
     }
-    foreground = ReadableOn(background, foreground);
+    if (background != lastBackground_ || foreground != lastWanted_) {
+        lastBackground_ = background;
+        lastWanted_ = foreground;
+        lastReadable_ = ReadableOn(background, foreground);
+    }
+    foreground = lastReadable_;
 
     painter_.fillRect(inner, background);
     const QColor& line = cell.IsFixed ? fixedLineColor_ : lineColor_;
@@ -74,19 +79,18 @@ void CellPainter::PaintText(const CellLook& cell, const QRectF& inner, const QCo
     const qreal room = inner.width() - 2 * textMargin;
     if (room < 1)
         return;
-    const QStaticText& text = texts_.Shaped(cell.Text, static_cast<int>(room));
-    const QSizeF size = text.size();
+    const QSizeF size = texts_.LayOut(cell.Text, room);
     const int alignment = cell.Alignment >= 0 && cell.Alignment <= lastAlignment ? cell.Alignment : 1;
     const QPointF at(pixels_.Across(Placed(inner.left() + textMargin, room, size.width(), alignment / 3)),
                      pixels_.Down(Placed(inner.top(), inner.height(), size.height(), alignment % 3)));
     painter_.setPen(color);
     if (size.height() <= inner.height()) {
-        painter_.drawStaticText(at, text);
+        texts_.Draw(painter_, at);
         return;
     }
     painter_.save();
     painter_.setClipRect(inner, Qt::IntersectClip);
-    painter_.drawStaticText(at, text);
+    texts_.Draw(painter_, at);
     painter_.restore();
 }
 

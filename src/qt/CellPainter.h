@@ -1,7 +1,7 @@
 #pragma once
 
+#include "qt/CellTexts.h"
 #include "qt/DevicePixels.h"
-#include "qt/ShapedTextCache.h"
 
 #include <QColor>
 #include <QPainter>
@@ -31,7 +31,7 @@ struct CellLook {
 /// Paints cells in one pass of painting. Each is painted whole, so that nothing under it shines through.
 class CellPainter {
 public:
-    CellPainter(QPainter& painter, ShapedTextCache& texts, const QPalette& palette, const DevicePixels& pixels);
+    CellPainter(QPainter& painter, CellTexts& texts, const QPalette& palette, const DevicePixels& pixels);
 
     void Paint(const CellLook& cell);
     void PaintEmpty(const QRectF& place); ///< Where no cells are.
@@ -42,12 +42,16 @@ private:
     void PaintFrame(const QRectF& inner);
 
     QPainter& painter_;
-    ShapedTextCache& texts_;
+    CellTexts& texts_;
     const QPalette& palette_;
     DevicePixels pixels_;
     qreal line_; ///< Width of a line: whole device pixels, about one logical.
     QColor lineColor_;
     QColor fixedLineColor_;
+    // Bands repeat, and contrast takes long to reckon.
+    QColor lastBackground_;
+    QColor lastWanted_;
+    QColor lastReadable_;
 };
 
 } // namespace Tessellon

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "engine/grid/GridEngine.h"
+#include "qt/CellTexts.h"
 #include "qt/DevicePixels.h"
-#include "qt/ShapedTextCache.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -29,7 +29,7 @@ public:
     /// What the mouse does next is done to this cell, wherever it is by then; none: to what lies under it.
     void Name(std::optional<GridCell> cell) { named_ = cell; }
     [[nodiscard]] bool WasPressTaken() const { return isPressTaken_; } ///< The last one; a lost one has no release.
-    [[nodiscard]] const ShapedTextCache& Texts() const { return texts_; }
+    [[nodiscard]] const ShapedTextCache& Texts() const { return texts_.Shaped(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -64,7 +64,7 @@ private:
     void WatchDrag(const GridMouse& mouse);
 
     SheetFrame& frame_;
-    ShapedTextCache texts_;
+    CellTexts texts_;
     float pixel_ = 0; ///< Twips.
     QTimer dragging_; ///< Runs while a drag is held outside.
     GridMouse dragged_;

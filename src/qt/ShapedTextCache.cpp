@@ -56,9 +56,13 @@ const QStaticText& ShapedTextCache::Shaped(std::u16string_view text, int room)
     if (const auto found = young_.find(wanted); found != young_.end())
         return found->second;
     if (young_.size() >= mostYoung)
-        old_ = std::exchange(young_, {});
+        old_.swap(young_);
     const auto kept = old_.find(wanted);
     QStaticText shaped = kept != old_.end() ? kept->second : Shape(start, start.size() < text.size(), room);
+    // One goes for each that comes, so that the old half is gone when the young one is full: to forget thousands at
+    // once would be seen.
+    if (!old_.empty())
+        old_.erase(old_.begin());
     return young_.emplace(Key{std::u16string(start), room}, std::move(shaped)).first->second;
 }
 
@@ -68,13 +72,19 @@ QStaticText ShapedTextCache::Shape(std::u16string_view start, bool isCut, int ro
     QString line = OnOneLine(start);
     if (isCut)
         line += ellipsis;
-    const QFontMetricsF metrics(font_);
-    if (isCut || metrics.horizontalAdvance(line) > room)
-        line = metrics.elidedText(line, Qt::ElideRight, room);
-    QStaticText shaped(line);
+    QStaticText shaped;
     shaped.setTextFormat(Qt::PlainText);
     shaped.setPerformanceHint(QStaticText::AggressiveCaching);
-    shaped.prepare(QTransform::fromScale(scale_, scale_), font_);
+    const auto shape = [&] {
+        shaped.setText(line);
+        shaped.prepare(QTransform::fromScale(scale_, scale_), font_);
+    };
+    if (!isCut)
+        shape();
+    if (isCut || shaped.size().width() > room) {
+        line = QFontMetricsF(font_).elidedText(line, Qt::ElideRight, room);
+        shape();
+    }
     return shaped;
 }
 

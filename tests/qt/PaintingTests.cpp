@@ -150,7 +150,7 @@ TEST(CellsOnTheScreen, LinesAreCrisp_AtEveryScale_WhereverTheWidgetBegins)
             QPainter painter(&image);
             painter.translate(begin, 0);
             const DevicePixels pixels = DevicePixels::Of(painter.deviceTransform());
-            ShapedTextCache texts;
+            CellTexts texts;
             texts.Use(QFont(), scale);
             const QPalette palette(Qt::lightGray);
             CellPainter cells(painter, texts, palette, pixels);
