@@ -12,10 +12,11 @@ endif()
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Tessellon)
 set(package_headers "")
 
-# tessellon_part(Qt OF tessellon_qt LINK PUBLIC Qt6::Widgets HEADERS qt/SheetWidget.h): the target Tessellon::Qt of the
-# package, made of these targets' objects. Installed are the headers named, and what they include.
+# tessellon_part(Qt OF tessellon_qt ON QtSql LINK PUBLIC Qt6::Widgets HEADERS qt/SheetWidget.h): the target Tessellon::Qt
+# of the package, made of these targets' objects, on that other part. Installed are the headers named, and what they
+# include.
 function(tessellon_part part)
-    cmake_parse_arguments(PARSE_ARGV 1 given "" "" "OF;LINK;HEADERS")
+    cmake_parse_arguments(PARSE_ARGV 1 given "" "" "OF;ON;LINK;HEADERS")
     string(TOLOWER ${part} suffix)
     set(objects "")
     foreach(target IN LISTS given_OF)
@@ -31,9 +32,9 @@ function(tessellon_part part)
         target_compile_features(${name} INTERFACE cxx_std_20)
         target_include_directories(${name} INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/tessellon>)
         target_link_libraries(${name} ${given_LINK})
-        if(NOT part STREQUAL Headless)
-            target_link_libraries(${name} PUBLIC package_Headless_${kind})
-        endif()
+        foreach(other IN LISTS given_ON)
+            target_link_libraries(${name} PUBLIC package_${other}_${kind})
+        endforeach()
         if(kind STREQUAL Shared AND CMAKE_SYSTEM_NAME STREQUAL Linux AND NOT TESSELLON_SANITIZE)
             target_link_options(${name} PRIVATE LINKER:--no-undefined)
         endif()
@@ -54,12 +55,16 @@ endfunction()
 
 tessellon_part(Headless OF tessellon_sheet tessellon_engine tessellon_headless tessellon_records
     HEADERS shell/TessellonSheet.h engine/DefaultProperties.h headless/HeadlessToolkit.h headless/HeadlessHand.h)
-tessellon_part(Sqlite OF tessellon_sqlite LINK PRIVATE SQLite::SQLite3
+tessellon_part(Sqlite OF tessellon_sqlite ON Headless LINK PRIVATE SQLite::SQLite3
     HEADERS recordset/sqlite/SqliteConnection.h recordset/sqlite/SqliteRecordset.h)
-tessellon_part(Odbc OF tessellon_odbc LINK PRIVATE ODBC::ODBC
+tessellon_part(Odbc OF tessellon_odbc ON Headless LINK PRIVATE ODBC::ODBC
     HEADERS recordset/odbc/OdbcConnection.h recordset/odbc/OdbcRecordset.h)
+if(TARGET tessellon_qtsql)
+    tessellon_part(QtSql OF tessellon_qtsql ON Headless LINK PUBLIC Qt6::Sql
+        HEADERS recordset/qtsql/QtSqlConnection.h recordset/qtsql/QtSqlRecordset.h)
+endif()
 if(TESSELLON_QT)
-    tessellon_part(Qt OF tessellon_qt LINK PUBLIC Qt6::Widgets HEADERS qt/SheetWidget.h)
+    tessellon_part(Qt OF tessellon_qt ON QtSql LINK PUBLIC Qt6::Widgets HEADERS qt/SheetWidget.h)
 endif()
 
 set(package_scripts ${PROJECT_BINARY_DIR}/package)

@@ -21,6 +21,8 @@ test=(
     xvfb              # a display for the tests of real windows
     openbox           # their window manager: without one the focus never comes back from a box
     xdotool           # their keyboard and mouse
+    libqt6sql6-sqlite # Qt's driver for SQLite, for records that come from a query of Qt's
+    libqt6sql6-psql   # the same for PostgreSQL, which answers in other ways
     postgresql        # a server that the tests start for themselves, for records that come from one
     python3           # plays the users and callers of the example
     clang-format      # the layout of the sources
