@@ -6,9 +6,12 @@
 #include "qt/SheetFrame.h"
 #include "qt/SheetWidgetParts.h"
 #include "qt/Texts.h"
+#include "recordset/qtsql/QtSqlConnection.h"
+#include "recordset/qtsql/QtSqlRecordset.h"
 
 #include <QPointer>
 #include <QResizeEvent>
+#include <QSqlQuery>
 
 namespace Tessellon {
 
@@ -266,6 +269,12 @@ void SheetWidget::DataSource(std::shared_ptr<Recordset> recordset, std::shared_p
     if (recordset != nullptr)
         recordset = std::make_shared<CountedRecordset>(std::move(recordset), tell, parts_->Clock);
     Ask([&](auto& sheet) { sheet.DataSource(std::move(recordset), std::move(connection)); });
+}
+
+void SheetWidget::DataSource(QSqlQuery query)
+{
+    const auto connection = std::make_shared<QtSqlConnection>();
+    DataSource(connection->Records(std::move(query)), connection);
 }
 
 // ---- Design-time properties -----------------------------------------------------------------------------------------

@@ -13,6 +13,8 @@
 #include <memory>
 #include <utility>
 
+class QSqlQuery;
+
 namespace Tessellon {
 
 class SheetFrame;
@@ -89,6 +91,10 @@ public:
     /// Fills the sheet: a row for each record, a cell for each field. The connection tells what went wrong; without one
     /// a failure goes to the host, as an exception of type Failure. A load of more than a second tells loadProgress.
     void DataSource(std::shared_ptr<Recordset> recordset, std::shared_ptr<Connection> connection);
+    /// The same from a query that was executed, which is taken over: DataSource(std::move(query)). What went wrong with
+    /// it, the executing included, is told by ErrInfo. QtSqlRecordset says how a query is read; for many records
+    /// setForwardOnly(true) ahead of exec.
+    void DataSource(QSqlQuery query);
 
     // Design-time properties. Font is QWidget's own: setFont does the same.
     QFont Font();

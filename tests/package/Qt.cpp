@@ -3,6 +3,8 @@
 #include "recordset/sqlite/SqliteRecordset.h"
 
 #include <QApplication>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 
 int main(int argc, char** argv)
 {
@@ -16,5 +18,12 @@ int main(int argc, char** argv)
     sheet.DataSource(connection->Query(u"SELECT 'Ada' AS customer"), connection);
     sheet.show();
     QApplication::processEvents();
-    return sheet.TextMatrix(1, 1) == "Ada" ? 0 : 1;
+    if (sheet.TextMatrix(1, 1) != "Ada")
+        return 1;
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE");
+    database.setDatabaseName(":memory:");
+    if (!database.open())
+        return 2;
+    sheet.DataSource(QSqlQuery("SELECT 'Grace'"));
+    return sheet.TextMatrix(1, 1) == "Grace" ? 0 : 3;
 }
