@@ -8,7 +8,8 @@ import pathlib
 import re
 import sys
 
-SOURCES = ("recordset/odbc/OdbcConnection.h", "recordset/odbc/OdbcRecordset.h")
+SOURCES = ("recordset/odbc/OdbcConnection.h", "recordset/odbc/OdbcRecordset.h", "recordset/qtsql/QtSqlConnection.h",
+           "recordset/qtsql/QtSqlRecordset.h")
 HEADERS = ("columns/ColDataType.h", "data/ManipulateType.h", "view/ColorType.h")
 PROGRAM = """#include "engine/DefaultProperties.h"
 #include "engine/EnginePlatform.h"
