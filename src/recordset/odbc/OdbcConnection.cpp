@@ -30,6 +30,7 @@ void OdbcConnection::Connect(std::u16string_view connectionText, const OdbcOptio
 
 std::shared_ptr<OdbcRecordset> OdbcConnection::Query(std::u16string_view statement)
 {
+    session_->SettleRecordsets();
     session_->ForgetErrors();
     if (!session_->IsOpen())
         throw session_->Noted(u"08003", u"the connection is not open");

@@ -34,7 +34,8 @@ public:
     /// As Open. Recordsets of an earlier data source keep it open.
     void Connect(std::u16string_view connectionText, const OdbcOptions& options = {});
 
-    /// Runs a query and gives its records, which are read when they are walked.
+    /// Runs a query and gives its records, which are read when they are walked. Earlier recordsets of the connection
+    /// that are still read are read to their ends first.
     /// Failures: a query that the driver refuses; one that gives no records, whose deeds are taken back where the data
     /// source can; no data source. A query that gives records is run whatever else it does.
     std::shared_ptr<OdbcRecordset> Query(std::u16string_view statement);

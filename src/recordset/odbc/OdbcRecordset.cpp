@@ -31,9 +31,13 @@ OdbcRecordset::OdbcRecordset(std::shared_ptr<OdbcSession> session, std::unique_p
     for (Odbc::RecordReader::Field& field : reader_->TakeFields())
         fields_.push_back({std::move(field.Name), field.Shape.Type});
     records_ = std::make_unique<KeptRecords>(FieldCount());
+    session_->Enter(*this);
 }
 
-OdbcRecordset::~OdbcRecordset() = default;
+OdbcRecordset::~OdbcRecordset()
+{
+    LetGo();
+}
 
 bool OdbcRecordset::AtEnd()
 {
@@ -77,26 +81,38 @@ std::u16string OdbcRecordset::FieldName(std::int32_t field)
     return FieldAt(field).Name;
 }
 
+void OdbcRecordset::Settle()
+{
+    while (reader_)
+        ReadOn();
+}
+
 void OdbcRecordset::Arrive()
 {
-    if (!records_->AtEnd())
-        return;
-    if (break_)
+    if (records_->AtEnd() && reader_)
+        ReadOn();
+    if (records_->AtEnd() && break_)
         FailAgain();
-    if (!reader_)
-        return;
+}
+
+void OdbcRecordset::ReadOn()
+{
     try {
         if (!reader_->Read(*records_))
-            reader_.reset();
+            LetGo();
     } catch (const Failure& failure) {
         break_ = std::make_unique<Break>(Break{failure, session_->Errors()});
     } catch (const std::bad_alloc&) {
         break_ = std::make_unique<Break>(Break{FailureOf(Common::OutOfMemory, u"Recordset"), {}});
     }
-    if (break_) {
-        reader_.reset();
-        FailAgain();
-    }
+    if (break_)
+        LetGo();
+}
+
+void OdbcRecordset::LetGo()
+{
+    reader_.reset();
+    session_->Leave(*this);
 }
 
 void OdbcRecordset::FailAgain() const

@@ -42,6 +42,10 @@ public:
     /// The heading that the query gives the field. A field that is none: failure 9.
     std::u16string FieldName(std::int32_t field);
 
+    /// Reads all records that are left, for a driver that is to serve another statement. What fails is told when the
+    /// walk comes there.
+    void Settle();
+
 private:
     struct Field {
         std::u16string Name;
@@ -50,6 +54,8 @@ private:
     struct Break;
 
     void Arrive();
+    void ReadOn();
+    void LetGo();
     [[noreturn]] void FailAgain() const;
     [[nodiscard]] const Field& FieldAt(std::int32_t field) const;
 

@@ -3,6 +3,7 @@
 #include "recordset/common/FailureNumbers.h"
 #include "recordset/common/Unicode.h"
 #include "recordset/odbc/Diagnostics.h"
+#include "recordset/odbc/OdbcRecordset.h"
 #include "recordset/odbc/Secrets.h"
 #include "recordset/odbc/Wide.h"
 
@@ -133,11 +134,16 @@ bool OdbcSession::AskWhetherWide() const
     return !SQL_SUCCEEDED(code) || std::u16string_view(repeated).find(letter) != std::u16string_view::npos;
 }
 
+void OdbcSession::SettleRecordsets()
+{
+    while (!reading_.empty())
+        reading_.back()->Settle();
+}
+
 Failure OdbcSession::Noted(SQLSMALLINT kind, SQLHANDLE handle)
 {
     errors_ = Odbc::DiagnosticsOf(kind, handle, isWide_);
-    for (ProviderError& error : errors_)
-        error.Description = Odbc::Masked(std::move(error.Description), secrets_);
+    Odbc::Mask(errors_, secrets_);
     return Failure(errors_.front().Number, u"Recordset", errors_.front().Description);
 }
 

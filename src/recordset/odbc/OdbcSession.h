@@ -11,6 +11,8 @@
 
 namespace Tessellon {
 
+class OdbcRecordset;
+
 /// What a connection and its recordsets share: the open connection of ODBC, and what went wrong last.
 class OdbcSession {
 public:
@@ -26,6 +28,13 @@ public:
     /// False for a driver that has no wide functions. The driver manager would turn what it is to give them into the
     /// locale's letters and cut the rest, so such a driver is given UTF-8 instead, which passes as it is.
     [[nodiscard]] bool IsWide() const { return isWide_; }
+
+    /// A recordset that has not read all of its records yet, until it has or is gone.
+    void Enter(OdbcRecordset& records) { reading_.push_back(&records); }
+    void Leave(OdbcRecordset& records) { std::erase(reading_, &records); }
+    /// Lets all of them read to their ends. Not every driver serves another statement meanwhile, and one ends the
+    /// records of the first without a word.
+    void SettleRecordsets();
 
     const std::vector<ProviderError>& Errors() const { return errors_; }
     void ForgetErrors() { errors_.clear(); }
@@ -48,6 +57,7 @@ private:
     bool isWide_ = true;
     std::vector<std::u16string> secrets_;
     std::vector<ProviderError> errors_;
+    std::vector<OdbcRecordset*> reading_;
 };
 
 } // namespace Tessellon

@@ -65,20 +65,30 @@ std::vector<std::u16string> SecretsOf(std::u16string_view connectionText)
         }
         text.remove_prefix(std::min<std::size_t>(1, text.size()));
     }
-    // One may be a part of another.
-    std::sort(secrets.begin(), secrets.end(), [](const auto& one, const auto& other) {
-        return one.size() != other.size() ? one.size() > other.size() : one < other;
-    });
-    secrets.erase(std::unique(secrets.begin(), secrets.end()), secrets.end());
     return secrets;
 }
 
-std::u16string Masked(std::u16string words, const std::vector<std::u16string>& secrets)
+void Mask(std::vector<ProviderError>& errors, const std::vector<std::u16string>& secrets)
 {
+    std::u16string words;
+    for (const ProviderError& error : errors)
+        words += error.Description;
+    std::vector<bool> isSecret(words.size());
     for (const std::u16string& secret : secrets)
-        for (std::size_t at = 0; (at = words.find(secret, at)) != std::u16string::npos; at += Asterisks.size())
-            words.replace(at, secret.size(), Asterisks);
-    return words;
+        for (std::size_t at = 0; (at = words.find(secret, at)) != std::u16string::npos; ++at)
+            std::fill_n(isSecret.begin() + static_cast<std::ptrdiff_t>(at), secret.size(), true);
+
+    std::size_t at = 0;
+    for (ProviderError& error : errors) {
+        std::u16string shown;
+        for (std::size_t i = 0; i < error.Description.size(); ++i, ++at) {
+            if (!isSecret[at])
+                shown += words[at];
+            else if (i == 0 || !isSecret[at - 1])
+                shown += Asterisks;
+        }
+        error.Description = std::move(shown);
+    }
 }
 
 } // namespace Tessellon::Odbc

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Recordset.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,7 +12,8 @@ namespace Tessellon::Odbc {
 /// every other key that tells of a password, a secret, a token or a passphrase.
 std::vector<std::u16string> SecretsOf(std::u16string_view connectionText);
 
-/// The words with asterisks for every secret in them.
-std::u16string Masked(std::u16string words, const std::vector<std::u16string>& secrets);
+/// Puts asterisks for every secret in the descriptions, also for one that begins in an error and ends in the next:
+/// drivers cut long words into several errors.
+void Mask(std::vector<ProviderError>& errors, const std::vector<std::u16string>& secrets);
 
 } // namespace Tessellon::Odbc

@@ -13,6 +13,7 @@ namespace Tessellon::Odbc {
 
 namespace {
 
+constexpr std::u16string_view NoRecords = u"the query gives no records";
 constexpr std::size_t LongestName = 1024;
 
 } // namespace
@@ -32,10 +33,15 @@ Statement::~Statement()
 void Statement::Run(std::u16string_view query)
 {
     Prepare(query);
-    if (ColumnCount() > 0)
-        Check(SQLExecute(handle_));
-    else
+    if (ColumnCount() == 0) {
         RunToTry();
+        return;
+    }
+    const SQLRETURN code = SQLExecute(handle_);
+    // So told of a change that would give the records it changed, and changed none.
+    if (code == SQL_NO_DATA)
+        throw session_->Noted(u"42000", std::u16string(NoRecords));
+    Check(code);
 }
 
 void Statement::Prepare(std::u16string_view query)
@@ -64,7 +70,7 @@ void Statement::RunToTry()
     const bool givesRecords = SQL_SUCCEEDED(code) && ColumnCount() > 0;
     std::optional<Failure> failure;
     if (!givesRecords)
-        failure = SQL_SUCCEEDED(code) || code == SQL_NO_DATA ? session_->Noted(u"42000", u"the query gives no records")
+        failure = SQL_SUCCEEDED(code) || code == SQL_NO_DATA ? session_->Noted(u"42000", std::u16string(NoRecords))
                                                              : session_->Noted(SQL_HANDLE_STMT, handle_);
     if (canTakeBack) {
         if (!givesRecords)

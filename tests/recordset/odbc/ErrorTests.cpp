@@ -1,8 +1,11 @@
 #include "recordset/odbc/OdbcTest.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <malloc.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace Tessellon {
 
@@ -80,6 +83,49 @@ TEST_F(OdbcErrors, WithTheSecretInTheProvidersWords_ShowAsterisks)
     connection.Connect(PostgresText("PWD=hunter2;"));
     EXPECT_NE(FailureOf([&] { connection.Query(u"SELECT hunter2"); }).Description.find(u"column \"***\""),
               std::u16string::npos);
+}
+
+// The driver cuts what the server says into records of some five hundred letters.
+TEST_F(OdbcErrors, InSeveralRecords_AreAllThereInTheirOrder_AndShowNoSecretBetweenThem)
+{
+    const auto connection = OdbcConnection::Open(PostgresText("PWD=hunter2;"));
+    for (int lead = 440; lead < 480; ++lead) {
+        const std::u16string wrong =
+            std::u16string(static_cast<std::size_t>(lead), u'x') + u"hunter2" + std::u16string(700, u'y') + u"zz";
+        const Failure failure = FailureOf([&] { connection->Query(u"SELECT '" + wrong + u"'::integer"); });
+        ASSERT_GE(connection->Errors().size(), 3U);
+        EXPECT_EQ(failure.Description, connection->Errors().front().Description);
+        std::u16string words;
+        for (const ProviderError& error : connection->Errors()) {
+            EXPECT_EQ(error.SQLState, u"22P02");
+            EXPECT_EQ(error.Source, u"ODBC");
+            words += error.Description;
+        }
+        EXPECT_TRUE(words.starts_with(u"ERROR: invalid input syntax for type integer: \"xxx"));
+        EXPECT_NE(words.find(u"x***"), std::u16string::npos);
+        EXPECT_NE(words.find(u"yyzz\";"), std::u16string::npos);
+        for (const char16_t* part : {u"h", u"un2", u"ter2", u"r2"})
+            EXPECT_EQ(words.find(std::u16string(part) + u"y"), std::u16string::npos) << lead;
+        EXPECT_EQ(words.find(u"xh"), std::u16string::npos) << lead;
+    }
+}
+
+TEST_F(OdbcErrors, OfAServerThatNeverAnswers_ComeWhenTheWaitIsOver)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const std::string path = Path(".s.PGSQL.5432").string();
+    ASSERT_LT(path.size(), sizeof address.sun_path);
+    std::copy(path.begin(), path.end(), address.sun_path);
+    const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    ASSERT_EQ(bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    ASSERT_EQ(listen(listener, 1), 0);
+    const std::u16string text =
+        u"Driver={PostgreSQL Unicode};Server=" + Path(".").parent_path().u16string() + u";Database=x;UID=x";
+    const Failure failure = FailureOf([&] { OdbcConnection::Open(text, {2}); });
+    EXPECT_NE(failure.Description.find(u"timeout expired"), std::u16string::npos)
+        << Common::ToUtf8(failure.Description);
+    close(listener);
 }
 
 TEST_F(OdbcErrors, OfAServerThatIsNotThere)
@@ -225,20 +271,20 @@ TEST_F(OdbcErrors, AHundredFold_LeaveNoFileOpen_AndNoMemoryTaken)
         return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
                              std::filesystem::directory_iterator());
     };
+    const auto server = OdbcConnection::Open(PostgresText("UseDeclareFetch=1;Fetch=2;"));
+    const auto file = OdbcConnection::Open(SqliteText("StepAPI=1;"));
     const auto fail = [&] {
         EXPECT_THROW(OdbcConnection::Open(u"DSN=nowhere"), Failure);
         EXPECT_THROW(OdbcConnection::Open(GuardedText("hunter2")), Failure);
         EXPECT_THROW(OdbcConnection::Open(SqliteText({}, "no/folder.db")), Failure);
         EXPECT_THROW(FromSqlite(u"SELEC"), Failure);
         EXPECT_THROW(FromPostgres(u"SELEC"), Failure);
-        EXPECT_THROW(FromPostgres(u"DELETE FROM pg_class WHERE false"), Failure);
-        EXPECT_THROW(CountOnwards(*FromPostgres(u"SELECT 9 / (5 - i) FROM generate_series(1, 9) i",
-                                                "UseDeclareFetch=1;Fetch=2;")),
-                     Failure);
-        EXPECT_THROW(CountOnwards(*OdbcConnection::Open(SqliteText("StepAPI=1;"))->Query(u"SELECT json(j) FROM t")),
-                     Failure);
-        FromPostgres(u"SELECT i FROM generate_series(1, 1000) i", "UseDeclareFetch=1;Fetch=2;")->MoveNext();
-        FromSqlite(u"SELECT j FROM t")->MoveNext();
+        EXPECT_THROW(server->Query(u"SELECT * FROM nowhere"), Failure);
+        EXPECT_THROW(server->Query(u"DELETE FROM pg_class WHERE false"), Failure);
+        EXPECT_THROW(CountOnwards(*server->Query(u"SELECT 9 / (5 - i) FROM generate_series(1, 9) i")), Failure);
+        EXPECT_THROW(CountOnwards(*file->Query(u"SELECT json(j) FROM t")), Failure);
+        server->Query(u"SELECT i FROM generate_series(1, 1000) i")->MoveNext();
+        file->Query(u"SELECT j FROM t")->MoveNext();
     };
     for (int i = 0; i < 10; ++i)
         fail();

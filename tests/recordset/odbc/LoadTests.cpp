@@ -152,6 +152,18 @@ TEST_F(OdbcLoads, RecordThatCannotBeRead_IsToldForEachOfItsErrors_AndTheOldRowsS
     EXPECT_FALSE(Members.LoadingRecordset);
 }
 
+TEST_F(OdbcLoads, FailureOfSeveralRecords_IsToldOnceForEach)
+{
+    LoadTwoRows();
+    const auto connection = OdbcConnection::Open(Server("UseDeclareFetch=1;Fetch=10;"));
+    const auto records = connection->Query(u"SELECT CASE WHEN i = 1000 THEN repeat('x', i + 500)::integer ELSE i END, "
+                                           u"'new' FROM generate_series(1, 2000) i");
+    const Lines heard = HeardOf(records, connection);
+    EXPECT_GE(connection->Errors().size(), 3U);
+    ExpectToldAndLeft(heard, connection);
+    ExpectTwoRows();
+}
+
 TEST_F(OdbcLoads, RecordThatCannotBeReadFirst_FailsAheadOfTheCount)
 {
     LoadTwoRows();

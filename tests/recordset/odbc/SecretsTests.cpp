@@ -8,7 +8,10 @@ namespace {
 
 std::u16string Shown(std::u16string_view connectionText, std::u16string words)
 {
-    return Masked(std::move(words), SecretsOf(connectionText));
+    std::vector<ProviderError> errors(1);
+    errors.front().Description = std::move(words);
+    Mask(errors, SecretsOf(connectionText));
+    return errors.front().Description;
 }
 
 TEST(Secrets, AreTheValuesOfPasswords_InWhateverLettersAndWithBlanks)
@@ -43,9 +46,26 @@ TEST(Secrets, ThatArePartsOfOthers_AreMaskedWhole)
     EXPECT_EQ(Shown(u"PWD=abc;SSLPassword=xabcx", u"xabcx abc"), u"*** ***");
 }
 
-TEST(Secrets, ThatHoldAsterisks_EndTheMasking)
+TEST(Secrets, ThatOverlap_AreMaskedAsOne)
 {
-    EXPECT_EQ(Shown(u"PWD=*", u"a*b**"), u"a***b******");
+    EXPECT_EQ(Shown(u"PWD=abcb;Token=bcd", u"xabcbcdx abcabcb"), u"x***x abc***");
+    EXPECT_EQ(Shown(u"PWD=aa", u"aaa a"), u"*** a");
+    EXPECT_EQ(Shown(u"PWD=*", u"a*b**"), u"a***b***");
+}
+
+TEST(Secrets, ThatAreCutIntoSeveralErrors_AreMaskedInEach)
+{
+    const auto secrets = SecretsOf(u"PWD=hunter2");
+    for (std::size_t cut = 0; cut <= 7; ++cut) {
+        const std::u16string secret = u"hunter2";
+        std::vector<ProviderError> errors(3);
+        errors[0].Description = u"with " + secret.substr(0, cut);
+        errors[2].Description = secret.substr(cut) + u" here";
+        Mask(errors, secrets);
+        EXPECT_EQ(errors[0].Description, cut > 0 ? u"with ***" : u"with ");
+        EXPECT_EQ(errors[1].Description, u"");
+        EXPECT_EQ(errors[2].Description, cut < 7 ? u"*** here" : u" here");
+    }
 }
 
 } // namespace

@@ -176,6 +176,63 @@ TEST_P(OdbcWalks, QueryThatGivesNoRecords_FailsAndChangesNothing)
     Do("INSERT INTO walked VALUES (9)");
 }
 
+struct Source {
+    const char* Name;
+    bool IsPostgres;
+    const char* Options;
+};
+
+class OtherQueries : public OdbcTest, public testing::WithParamInterface<Source> {
+protected:
+    /// SQLite's driver gives an expression no type until it has read a record.
+    static std::string Number(Recordset& records)
+    {
+        const std::string told = Told(records.FieldValue(0));
+        return told.substr(told.find(' ') + 1);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Sources, OtherQueries,
+                         testing::Values(Source{"Postgres", true, ""},
+                                         Source{"PostgresInPieces", true, "UseDeclareFetch=1;Fetch=10;"},
+                                         Source{"Sqlite", false, ""}, Source{"SqliteInPieces", false, "StepAPI=1;"}),
+                         [](const auto& source) { return std::string(source.param.Name); });
+
+TEST_P(OtherQueries, InTheMiddleOfAWalk_CostItNoRecord)
+{
+    const Source& source = GetParam();
+    const auto connection =
+        OdbcConnection::Open(source.IsPostgres ? PostgresText(source.Options) : SqliteText(source.Options));
+    constexpr std::u16string_view numbers =
+        u"WITH RECURSIVE c(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM c WHERE n < 5000) "
+        u"SELECT n FROM c";
+    for (const char16_t* other : {u"SELECT 7", u"SELEC", u"SELECT n FROM nowhere", u"CREATE TABLE made (n INTEGER)"}) {
+        const auto records = connection->Query(numbers);
+        const auto second = connection->Query(numbers);
+        for (int i = 0; i < 10; ++i)
+            records->MoveNext();
+        try {
+            EXPECT_EQ(Number(*connection->Query(other)), "7");
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.Source, u"Recordset");
+        }
+        EXPECT_EQ(Number(*records), "11");
+        EXPECT_EQ(CountOnwards(*records), 4990);
+        EXPECT_EQ(CountOnwards(*second), 5000);
+    }
+}
+
+TEST_F(OdbcTest, ChangeThatGivesTheRecordsItChanged_FailsWhereItChangesNone)
+{
+    PostgresServer::Shared().Run("CREATE TABLE changed (n INTEGER)");
+    const auto connection = OdbcConnection::Open(PostgresText());
+    EXPECT_EQ(FailureOf([&] { connection->Query(u"UPDATE changed SET n = 0 RETURNING n"); }).Description,
+              u"the query gives no records");
+    EXPECT_EQ(TellAll(*connection->Query(u"INSERT INTO changed VALUES (5) RETURNING n")),
+              std::vector<std::string>{"integer 5"});
+    PostgresServer::Shared().Run("DROP TABLE changed");
+}
+
 } // namespace
 
 } // namespace Tessellon
