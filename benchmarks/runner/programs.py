@@ -8,14 +8,22 @@ class CannotMeasure(Exception):
     pass
 
 
-def run(command, environment=None, timeout=900):
-    """What the program told: each line a name and a value."""
-    done = subprocess.run([str(word) for word in command], env=environment, stdin=subprocess.DEVNULL,
-                          capture_output=True, text=True, timeout=timeout)
+def output_of(command, environment=None, most=900):
+    words = [str(word) for word in command]
+    try:
+        done = subprocess.run(words, env=environment, stdin=subprocess.DEVNULL, capture_output=True, text=True,
+                              timeout=most)
+    except subprocess.TimeoutExpired as late:
+        raise CannotMeasure(f"{' '.join(words)} did not end within {most} seconds") from late
     if done.returncode != 0:
-        raise CannotMeasure(f"{' '.join(map(str, command))} ended with {done.returncode}: {done.stderr.strip()}")
+        raise CannotMeasure(f"{' '.join(words)} ended with {done.returncode}: {done.stderr.strip()}")
+    return done.stdout
+
+
+def run(command, environment=None):
+    """What the program told: each line a name and a value."""
     figures = {}
-    for line in done.stdout.splitlines():
+    for line in output_of(command, environment).splitlines():
         name, value = line.rsplit(" ", 1)
         figures[name] = float(value)
     return figures
@@ -39,14 +47,11 @@ def check_same(name, *sides):
 
 def calls(command, names, repetitions):
     """Runs benchmarks of Google Benchmark in turn. For each, the time of one of the things that it does, of all runs."""
-    done = subprocess.run([*map(str, command), f"--benchmark_filter=^({'|'.join(names)})(/|$)",
-                           f"--benchmark_repetitions={repetitions}", "--benchmark_enable_random_interleaving=true",
-                           "--benchmark_min_time=0.1", "--benchmark_format=json"],
-                          stdin=subprocess.DEVNULL, capture_output=True, text=True, timeout=900)
-    if done.returncode != 0:
-        raise CannotMeasure(f"{command[0]} ended with {done.returncode}: {done.stderr.strip()}")
+    output = output_of([*command, f"--benchmark_filter=^({'|'.join(names)})(/|$)",
+                        f"--benchmark_repetitions={repetitions}", "--benchmark_enable_random_interleaving=true",
+                        "--benchmark_min_time=0.1", "--benchmark_format=json"])
     told = {}
-    for entry in json.loads(done.stdout)["benchmarks"]:
+    for entry in json.loads(output)["benchmarks"]:
         if entry["run_type"] == "iteration":
             name = entry["run_name"].split("/manual_time")[0].split("/iterations")[0].split("/min_warmup")[0]
             told.setdefault(name, []).append(entry["each"])

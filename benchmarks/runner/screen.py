@@ -10,6 +10,8 @@ import tempfile
 import time
 import zlib
 
+from programs import CannotMeasure
+
 
 class Screen:
     SIZE = (1400, 900)
@@ -32,7 +34,7 @@ class Screen:
         with os.fdopen(reading) as told:
             number = told.readline().strip()
         if not number:
-            raise RuntimeError("Xvfb did not start")
+            raise CannotMeasure("Xvfb did not start")
         with open(self.folder / "Xvfb_screen0", "rb") as file:
             self.pixels = mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ)
         # Plain widgets, the same on every desktop; nothing that would look for a session.
@@ -44,7 +46,7 @@ class Screen:
         deadline = time.monotonic() + 10
         while not self._has_manager():
             if time.monotonic() > deadline:
-                raise RuntimeError("the window manager did not start")
+                raise CannotMeasure("the window manager did not start")
             time.sleep(0.05)
 
     def _run(self, command, **how):
@@ -88,7 +90,7 @@ class Screen:
         finally:
             program.terminate()
             program.wait()
-        raise RuntimeError(f"the window of {command[0]} did not come to rest")
+        raise CannotMeasure(f"the window of {command[0]} did not come to rest")
 
     def close(self):
         for program in reversed(self.programs):

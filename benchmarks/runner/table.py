@@ -57,11 +57,12 @@ def below(work, ours, most, show=seconds, peer=""):
     return Line(work, show(mine), peer, None, f"at most {show(most)}", mine <= most)
 
 
-def same(work, values, labels, show=seconds, within=0.1):
-    """Figures of several sizes that should be one: the largest over the smallest decides."""
-    ratio = max(values) / min(values)
-    return Line(work, show(values[-1]), ", ".join(f"{show(v)} at {n}" for v, n in zip(values[:-1], labels[:-1])), ratio,
-                f"the same within {within:.0%}", ratio <= 1 + within)
+def same(work, ours, other, name, show=seconds, within=0.1):
+    """Medians that should be one, whichever is larger."""
+    line = against(work, ours, other, name, show=show)
+    line.bar = f"the same within {within:.0%}"
+    line.holds = 1 / (1 + within) <= line.ratio <= 1 + within
+    return line
 
 
 def text_line(cells):

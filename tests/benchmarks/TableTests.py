@@ -37,9 +37,10 @@ class Verdicts(unittest.TestCase):
         self.assertFalse(table.below("read", [4.1e-8], 4e-8).holds)
 
     def test_sizes_are_the_same_within_a_tenth_whichever_is_larger(self):
-        self.assertTrue(table.same("rows", [1.0, 1.1], ["10", "100"]).holds)
-        self.assertFalse(table.same("rows", [1.0, 1.11], ["10", "100"]).holds)
-        self.assertFalse(table.same("rows", [1.11, 1.0], ["10", "100"]).holds)
+        self.assertTrue(table.same("load", [1.1], [1.0], "at 10").holds)
+        self.assertTrue(table.same("load", [1.0], [1.1], "at 10").holds)
+        self.assertFalse(table.same("load", [1.11], [1.0], "at 10").holds)
+        self.assertFalse(table.same("load", [1.0], [1.11], "at 10").holds)
 
     def test_a_line_shows_what_was_measured_and_the_verdict(self):
         line = table.against("load", [3.0], [1.0], "peer", 2)

@@ -31,16 +31,18 @@ def load(bench):
 @work("sizes", "loads of 10,000 to 10,000,000 rows")
 def sizes(bench):
     counts = [10_000, 100_000] if bench.quick else [10_000, 100_000, 1_000_000, 10_000_000]
-    times, memories, peaks = [], [], []
+    times, memories, peaks = {}, {}, {}
     for count in counts:
         records = bench.database(count)
         runs = bench.heavy() if count >= 1_000_000 else 4 * bench.light()
         sheet, walk = alternate(runs, [bench.program("bench_load", what, records) for what in ("sheet", "walk")])
-        times.append(statistics.median(sheet["seconds"]) / count)
-        memories.append((statistics.median(sheet["peak"]) - statistics.median(walk["peak"])) / count)
-        peaks.append(statistics.median(sheet["peak"]))
-    labels = [f"{count:,}" for count in counts]
-    yield same(f"Load of {labels[-1]} rows, time a row", times, labels)
-    yield same(f"Load of {labels[-1]} rows, memory a row", memories, labels, lambda b: f"{number(b)} bytes")
+        times[count] = [taken / count for taken in sheet["seconds"]]
+        memories[count] = [(peak - statistics.median(walk["peak"])) / count for peak in sheet["peak"]]
+        peaks[count] = sheet["peak"]
+    for figures, says, show in ((times, "time", seconds), (memories, "memory", lambda b: f"{number(b)} bytes")):
+        for count in counts:
+            if count != bench.many:
+                yield same(f"Load of {count:,} rows, {says} a row", figures[count], figures[bench.many],
+                           f"at {bench.many:,}", show)
     if not bench.quick:
-        yield below("Load of 10,000,000 rows, peak memory", peaks[-1:], 2 * GIGABYTE, megabytes)
+        yield below("Load of 10,000,000 rows, peak memory", peaks[10_000_000], 2 * GIGABYTE, megabytes)
