@@ -85,8 +85,8 @@ double ChecksumOf(const std::string& database)
 
 void RunBare(const std::string& database)
 {
-    const Orders::BareLoopResult result = Orders::RunBareLoop(database, query);
-    Tell("seconds", result.Seconds);
+    Orders::BareLoopResult result;
+    Tell("seconds", SecondsOf([&] { result = Orders::RunBareLoop(database, query); }));
     TellPeak();
     Tell("rows", static_cast<double>(result.Rows));
     Tell("used", static_cast<double>(result.Checksum));

@@ -37,10 +37,10 @@ void DeclareColumns(SheetWidget& sheet, bool asTexts)
     sheet.BuildGridColumns();
 }
 
-void Load(SheetWidget& sheet, const std::string& database)
+void Load(SheetWidget& sheet, const std::string& database, const QString& limit)
 {
     const auto connection = SqliteConnection::Open(QString::fromStdString(database).toStdU16String());
-    sheet.DataSource(connection->Query(QString::fromLatin1(query).toStdU16String()), connection);
+    sheet.DataSource(connection->Query((QString::fromLatin1(query) + limit).toStdU16String()), connection);
 }
 
 int WidthOf(const SheetWidget& sheet, int col)

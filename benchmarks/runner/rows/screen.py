@@ -87,6 +87,16 @@ def build(bench):
     yield below("Cell advance there, editors made before", told["advance"], 2 * MILLI)
 
 
+@work("rows-shown", "Add and Delete in a shown window")
+def rows_shown(bench):
+    (told,) = alternate(bench.heavy(), [bench.program("bench_sheet", "rows", bench.database(bench.many))],
+                        bench.environment())
+    yield against(f"Add of a row at the end of {bench.many:,} in a window", told["addAtTheEndOfMany"],
+                  told["addAtTheEndOfFew"], "at the end of 10", 1.1)
+    yield below("Delete of the first of 100,000 rows in a window, a row below", told["deleteFirst"], 50 * NANO)
+    yield below("Add behind the first of 100,000 rows in a window, a row below", told["addFirst"], 50 * NANO)
+
+
 @work("bands-shown", "BackColor of a shown window")
 def colours(bench):
     (told,) = alternate(bench.heavy(), [bench.program("bench_sheet", "bands", bench.database(bench.many))],
