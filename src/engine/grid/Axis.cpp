@@ -186,20 +186,48 @@ std::int32_t Axis::Size(std::int32_t index) const
 
 std::int32_t Axis::Own(std::int32_t index) const
 {
-    if (!last_.Has(index)) {
-        const Place place = Find(index);
-        const Run& run = blocks_[place.Block].Runs[place.Run];
-        last_ = {index - place.Offset, run.Count, run.Own};
-    }
+    if (!last_.Has(index))
+        Remember(index);
     return last_.Own;
+}
+
+void Axis::Remember(std::int32_t index) const
+{
+    if (last_.Count > 0 && index == last_.First + last_.Count && last_.Run + 1 < blocks_[last_.Block].Runs.size()) {
+        const Run& next = blocks_[last_.Block].Runs[last_.Run + 1];
+        last_ = {index, next.Count, next.Own, last_.Block, last_.Run + 1};
+        return;
+    }
+    const Place place = Find(index);
+    const Run& run = blocks_[place.Block].Runs[place.Run];
+    last_ = {index - place.Offset, run.Count, run.Own, place.Block, place.Run};
 }
 
 void Axis::SetOwn(std::int32_t index, std::int32_t size)
 {
     if (Own(index) == size)
         return;
+    const Place place{last_.Block, last_.Run, index - last_.First};
+    if (MoveBorder(place, size))
+        return;
     const Run added{1, size};
-    Replace(Find(index), 1, &added);
+    Replace(place, 1, &added);
+}
+
+/// The first of a run goes over to the run ahead of it: what a walk does that gives one row after the other a size.
+bool Axis::MoveBorder(const Place& place, std::int32_t size)
+{
+    Block& block = blocks_[place.Block];
+    if (place.Offset != 0 || place.Run == 0 || block.Runs[place.Run - 1].Own != size ||
+        block.Runs[place.Run].Count == 1)
+        return false;
+    Run& ahead = block.Runs[place.Run - 1];
+    Run& run = block.Runs[place.Run];
+    last_ = {last_.First - ahead.Count, ++ahead.Count, size, place.Block, place.Run - 1};
+    --run.Count;
+    block.Extent += Effective(size) - Effective(run.Own);
+    Touched(place.Block);
+    return true;
 }
 
 void Axis::SetDefaultSize(std::int32_t size)

@@ -68,6 +68,8 @@ private:
         std::int32_t First = 0;
         std::int32_t Count = 0;
         std::int32_t Own = defaultOwn;
+        std::size_t Block = 0;
+        std::size_t Run = 0;
 
         [[nodiscard]] bool Has(std::int32_t index) const { return index - First >= 0 && index - First < Count; }
     };
@@ -75,9 +77,11 @@ private:
     [[nodiscard]] std::int32_t Effective(std::int32_t own) const;
     [[nodiscard]] Place Find(std::int32_t index) const;
     void KnowStarts() const;
+    void Remember(std::int32_t index) const;
     void Measure();
     void Touched(std::size_t block);
     void Replace(const Place& place, std::int32_t removed, const Run* added);
+    [[nodiscard]] bool MoveBorder(const Place& place, std::int32_t size);
 
     std::int32_t count_;
     std::int32_t defaultSize_;

@@ -22,6 +22,7 @@ GridEngine::GridEngine(GridSurroundings& surroundings)
     , rows_(fixedRows + 1, surroundings.DefaultRowHeight(font_))
     , cols_(fixedCols + 1, surroundings.DefaultColWidth(font_))
     , alignments_(fixedCols + 1, leftAligned)
+    , colWidths_(fixedCols + 1, cols_.Size(0))
 {
 }
 
@@ -91,6 +92,7 @@ void GridEngine::Cols(std::int32_t cols)
         return;
     cells_.SetCols(cols);
     cols_.SetCount(cols);
+    MeasureCols();
     alignments_.resize(static_cast<std::size_t>(cols), leftAligned);
     InvalidateFromCol(std::min(cols, before));
     PullCursor();
@@ -114,7 +116,7 @@ void GridEngine::AddItem(std::u16string_view text, std::int32_t index)
         cells_.SetText(index, col, text.substr(0, tab));
         text = tab == std::u16string_view::npos ? std::u16string_view() : text.substr(tab + 1);
     }
-    if (index <= VisibleRows().Last + 1)
+    if (index <= RowsInReach().Last + 1)
         ShapeChanged();
     InvalidateFromRow(index);
     surroundings_.ScrollBarsChanged();
@@ -139,7 +141,14 @@ void GridEngine::RemoveItem(std::int32_t index)
 std::int32_t GridEngine::ColWidth(std::int32_t col)
 {
     NeedCol(col);
-    return cols_.Size(col);
+    return colWidths_[static_cast<std::size_t>(col)];
+}
+
+void GridEngine::MeasureCols()
+{
+    colWidths_.resize(static_cast<std::size_t>(cols_.Count()));
+    for (std::int32_t col = 0; col < cols_.Count(); ++col)
+        colWidths_[static_cast<std::size_t>(col)] = cols_.Size(col);
 }
 
 void GridEngine::ColWidth(std::int32_t col, std::int32_t width)
@@ -151,6 +160,7 @@ void GridEngine::ColWidth(std::int32_t col, std::int32_t width)
         return;
     const std::int32_t before = cols_.Size(col);
     cols_.SetOwn(col, width);
+    colWidths_[static_cast<std::size_t>(col)] = cols_.Size(col);
     if (cols_.Size(col) == before)
         return;
     InvalidateFromCol(col);
@@ -174,7 +184,7 @@ void GridEngine::RowHeight(std::int32_t row, std::int32_t height)
     rows_.SetOwn(row, height);
     if (rows_.Size(row) == before)
         return;
-    if (IsRowInView(row) || row < topRow_)
+    if (row <= RowsInReach().Last)
         ShapeChanged();
     InvalidateFromRow(row);
     surroundings_.ScrollBarsChanged();
@@ -290,6 +300,7 @@ void GridEngine::FontMetricsChanged()
 {
     rows_.SetDefaultSize(surroundings_.DefaultRowHeight(font_));
     cols_.SetDefaultSize(surroundings_.DefaultColWidth(font_));
+    MeasureCols();
     InvalidateAll();
     surroundings_.ScrollBarsChanged();
 }

@@ -192,6 +192,7 @@ private:
     void NeedRow(std::int32_t row) const;
     void NeedCol(std::int32_t col) const;
     void NeedCell(std::int32_t row, std::int32_t col) const;
+    void MeasureCols();
     [[nodiscard]] bool IsThere(GridCell cell) const;
     [[nodiscard]] bool IsData(GridCell cell) const { return cell.Row >= fixedRows && cell.Col >= fixedCols; }
     [[nodiscard]] GridCell Pulled(GridCell cell) const;
@@ -219,13 +220,22 @@ private:
     [[nodiscard]] GridRectangle ShownCurrentCell();
 
     // Painting
-    [[nodiscard]] bool IsRowInView(std::int32_t row) const { return row < fixedRows || VisibleRows().Contains(row); }
+    /// Data rows that are in view where no scroll bar takes room: what is out of reach needs no toolkit asked.
+    [[nodiscard]] GridSpan RowsInReach() const;
+    [[nodiscard]] bool IsRowInView(std::int32_t row) const
+    {
+        return row < fixedRows || (RowsInReach().Contains(row) && VisibleRows().Contains(row));
+    }
     void Invalidate(const GridRectangle& part);
     void InvalidateCells(const GridSelection& cells);
     void InvalidateFromRow(std::int32_t row);
     void InvalidateFromCol(std::int32_t col);
     void InvalidateAll();
-    void ShapeChanged() { visibleRows_.reset(); }
+    void ShapeChanged()
+    {
+        visibleRows_.reset();
+        rowsInReach_.reset();
+    }
     void ShowCursor();
     void PaintDue();
 
@@ -247,6 +257,7 @@ private:
     Axis rows_;
     Axis cols_;
     std::vector<std::int16_t> alignments_; ///< Of the columns.
+    std::vector<std::int32_t> colWidths_; ///< As cols_ has them: a load asks for one at each cell.
 
     GridSelection selection_;
     GridCell toldCell_; ///< The cell that was announced last.
@@ -270,6 +281,7 @@ private:
     bool isPaintDue_ = false;
     mutable std::optional<GridSpan> visibleRows_;
     mutable std::int32_t visibleIn_ = 0; ///< The height of the view that visibleRows_ were found for.
+    mutable std::optional<GridSpan> rowsInReach_;
 };
 
 } // namespace Tessellon

@@ -116,6 +116,13 @@ GridSpan GridEngine::VisibleRows() const
     return *visibleRows_;
 }
 
+GridSpan GridEngine::RowsInReach() const
+{
+    if (!rowsInReach_)
+        rowsInReach_ = Sight(rows_, fixedRows, topRow_, WithoutBar(height_, 0)).Visible();
+    return *rowsInReach_;
+}
+
 GridSpan GridEngine::VisibleCols() const
 {
     return ColSight().Visible();
@@ -191,8 +198,10 @@ void GridEngine::Invalidate(const GridRectangle& part)
 
 void GridEngine::InvalidateCells(const GridSelection& cells)
 {
-    const GridSpan visible = VisibleRows();
-    if (cells.FirstRow() >= fixedRows && (cells.FirstRow() > visible.Last || cells.LastRow() < visible.First))
+    const auto areOutside = [&](const GridSpan& rows) {
+        return cells.FirstRow() >= fixedRows && (cells.FirstRow() > rows.Last || cells.LastRow() < rows.First);
+    };
+    if (areOutside(RowsInReach()) || areOutside(VisibleRows()))
         return;
     const SightCut across = ColSight().Cut(cells.FirstCol(), cells.LastCol());
     const SightCut down = RowSight().Cut(cells.FirstRow(), cells.LastRow());
@@ -201,7 +210,7 @@ void GridEngine::InvalidateCells(const GridSelection& cells)
 
 void GridEngine::InvalidateFromRow(std::int32_t row)
 {
-    if (row >= fixedRows && row > VisibleRows().Last + 1)
+    if (row >= fixedRows && (row > RowsInReach().Last + 1 || row > VisibleRows().Last + 1))
         return;
     const GridRectangle view = View();
     const std::int32_t top = RowSight().Cut(row, row).Begin;
@@ -217,7 +226,7 @@ void GridEngine::InvalidateFromCol(std::int32_t col)
 
 void GridEngine::InvalidateAll()
 {
-    visibleRows_.reset();
+    ShapeChanged();
     Invalidate(View());
 }
 
@@ -242,8 +251,9 @@ void GridEngine::Redraw(bool redraw)
     redraw_ = redraw;
     if (!redraw)
         return;
-    for (const GridRectangle& part : std::exchange(heldParts_, {}))
-        surroundings_.Invalidate(part);
+    if (!heldParts_.empty())
+        for (const GridRectangle& part : std::exchange(heldParts_, {}))
+            surroundings_.Invalidate(part);
     PaintDue();
 }
 

@@ -64,6 +64,31 @@ TEST_F(Painting, RowsOutOfView_InvalidateNothing)
     EXPECT_EQ(Parts().size(), 0U);
 }
 
+TEST_F(Painting, RowBehindAScrollBar_IsInvalidatedAsSoonAsTheBarIsGone)
+{
+    Build(100, 4);
+    Surroundings.BarHeight = 480;
+    Forget();
+    Grid.TextMatrix(18, 1, u"hidden");
+    EXPECT_EQ(Surroundings.Parts.size(), 0U);
+    Surroundings.BarHeight = 0;
+    Grid.TextMatrix(18, 1, u"shown");
+    EXPECT_EQ(Surroundings.Parts.size(), 1U);
+}
+
+TEST_F(Painting, RowThatASmallerOneBehindAScrollBarLetsIn_IsInvalidatedAsSoonAsTheBarIsGone)
+{
+    Build(100, 4);
+    Surroundings.BarHeight = 480;
+    Forget();
+    Grid.RowHeight(19, 60);
+    Grid.TextMatrix(20, 1, u"hidden");
+    EXPECT_EQ(Surroundings.Parts.size(), 0U);
+    Surroundings.BarHeight = 0;
+    Grid.TextMatrix(20, 1, u"shown");
+    EXPECT_EQ(Surroundings.Parts.size(), 1U);
+}
+
 TEST_F(Painting, AdvanceToTheNextCell_InvalidatesTwoCellsAndTheMarkers)
 {
     Build(100, 5);
