@@ -1,5 +1,7 @@
 #include "engine/grid/CellChunk.h"
 
+#include "engine/runtime/ByteUnits.h"
+
 #include <algorithm>
 #include <cstring>
 #include <limits>
@@ -18,14 +20,6 @@ constexpr std::size_t leastGarbage = 256;
 /// Texts are widened by whole blocks, nearly all by one, so that their length costs no wrong guess of the processor.
 /// The arena therefore has a block of known bytes behind its last text.
 constexpr std::size_t block = 32;
-
-bool FitsBytes(std::u16string_view text)
-{
-    std::uint32_t all = 0;
-    for (const char16_t unit : text)
-        all |= unit;
-    return all < 256;
-}
 
 bool IsAhead(const CellExtra& extra, const std::pair<std::int32_t, std::int32_t>& place)
 {
@@ -53,6 +47,12 @@ CellChunk::CellChunk(std::int32_t rows, std::int32_t cols)
 void CellChunk::Hold(std::int32_t capacity)
 {
     capacity_ = capacity;
+}
+
+CellChunk::Cell::Cell(std::size_t offset, std::size_t units, bool isWide)
+    : Length(static_cast<std::uint16_t>(std::min<std::size_t>(units, lengthMask) | (isWide ? wideMark : 0U)))
+{
+    Offset(offset);
 }
 
 CellChunk::Extent CellChunk::ExtentOf(const Cell& cell) const
@@ -96,15 +96,22 @@ void CellChunk::Resize(std::size_t capacity)
     arenaCapacity_ = capacity;
 }
 
-std::size_t CellChunk::Room(std::size_t bytes, std::size_t hint)
+char* CellChunk::Room(std::size_t bytes, std::size_t hint)
 {
     const std::size_t wanted = arenaSize_ + bytes;
-    if (wanted > std::numeric_limits<std::uint32_t>::max())
-        throw std::bad_alloc();
-    if (wanted > arenaCapacity_)
+    if (wanted > arenaCapacity_) [[unlikely]] {
+        if (wanted > std::numeric_limits<std::uint32_t>::max())
+            throw std::bad_alloc();
         Resize(isTrimmed_ ? wanted + wanted / 8 : std::max({wanted, arenaCapacity_ * 2, hint, std::size_t{64}}));
-    std::memset(arena_.get() + wanted, 0, block);
-    return std::exchange(arenaSize_, wanted);
+    }
+    return arena_.get() + arenaSize_;
+}
+
+std::size_t CellChunk::Take(std::size_t bytes)
+{
+    const std::size_t offset = std::exchange(arenaSize_, arenaSize_ + bytes);
+    std::memset(arena_.get() + arenaSize_, 0, block);
+    return offset;
 }
 
 void CellChunk::Drop(Cell& cell)
@@ -136,19 +143,49 @@ bool CellChunk::SetText(std::int32_t row, std::int32_t col, std::u16string_view 
         cells_ = std::make_unique<Cell[]>(Index(capacity_) * Index(cols_));
     }
     Cell& cell = cells_[Index(row, col)];
+    if (cell.Length == 0) {
+        if (text.empty())
+            return false;
+        // Of a text that goes into an empty cell it shows on the way whether it is wide.
+        if (text.size() < lengthMask && Narrow(Room(text.size(), hint), text))
+            cell = {Take(text.size()), text.size(), false};
+        else
+            Append(cell, text, !FitsBytes(text), hint);
+        return true;
+    }
     const bool isWide = !FitsBytes(text);
     if (Holds(cell, text, isWide))
         return false;
-    const bool isLong = text.size() >= lengthMask;
-    const std::size_t bytes = text.size() * (isWide ? 2 : 1) + (isLong ? longPrefix : 0);
-    const std::size_t before = cell.Length == 0 ? 0 : ExtentOf(cell).Bytes;
-    std::size_t offset = cell.Offset();
-    if (bytes > before)
-        offset = Room(bytes, hint);
-    garbage_ += bytes > before ? before : before - bytes;
+    const std::size_t bytes = BytesOf(text, isWide);
+    const std::size_t before = ExtentOf(cell).Bytes;
+    if (bytes > before) {
+        Append(cell, text, isWide, hint);
+        garbage_ += before;
+    } else {
+        Write(arena_.get() + cell.Offset(), text, isWide);
+        cell = {cell.Offset(), text.size(), isWide};
+        garbage_ += before - bytes;
+    }
+    if (garbage_ > leastGarbage && garbage_ > arenaSize_ / 2)
+        Compact();
+    return true;
+}
 
-    char* to = arena_.get() + offset;
-    if (isLong) {
+void CellChunk::Append(Cell& cell, std::u16string_view text, bool isWide, std::size_t hint)
+{
+    const std::size_t bytes = BytesOf(text, isWide);
+    Write(Room(bytes, hint), text, isWide);
+    cell = {Take(bytes), text.size(), isWide};
+}
+
+std::size_t CellChunk::BytesOf(std::u16string_view text, bool isWide)
+{
+    return text.size() * (isWide ? 2 : 1) + (text.size() >= lengthMask ? longPrefix : 0);
+}
+
+void CellChunk::Write(char* to, std::u16string_view text, bool isWide)
+{
+    if (text.size() >= lengthMask) {
         const auto units = static_cast<std::uint32_t>(text.size());
         std::memcpy(to, &units, longPrefix);
         to += longPrefix;
@@ -156,14 +193,7 @@ bool CellChunk::SetText(std::int32_t row, std::int32_t col, std::u16string_view 
     if (isWide)
         std::memcpy(to, text.data(), text.size() * 2);
     else
-        for (std::size_t index = 0; index < text.size(); ++index)
-            to[index] = static_cast<char>(text[index]);
-    cell.OffsetLow = static_cast<std::uint16_t>(offset & 0xFFFFU);
-    cell.OffsetHigh = static_cast<std::uint16_t>(offset >> 16U);
-    cell.Length = static_cast<std::uint16_t>((isLong ? lengthMask : text.size()) | (isWide ? wideMark : 0U));
-    if (garbage_ > leastGarbage && garbage_ > arenaSize_ / 2)
-        Compact();
-    return true;
+        Narrow(to, text);
 }
 
 void CellChunk::CopyText(Cell& cell, const CellChunk& from, const Cell& source)
@@ -171,10 +201,8 @@ void CellChunk::CopyText(Cell& cell, const CellChunk& from, const Cell& source)
     if (source.Length == 0)
         return;
     const std::size_t bytes = from.ExtentOf(source).Bytes;
-    const std::size_t offset = Room(bytes, 0);
-    std::memcpy(arena_.get() + offset, from.arena_.get() + source.Offset(), bytes);
-    cell.OffsetLow = static_cast<std::uint16_t>(offset & 0xFFFFU);
-    cell.OffsetHigh = static_cast<std::uint16_t>(offset >> 16U);
+    std::memcpy(Room(bytes, 0), from.arena_.get() + source.Offset(), bytes);
+    cell.Offset(Take(bytes));
     cell.Length = source.Length;
 }
 

@@ -80,7 +80,15 @@ private:
         std::uint16_t OffsetHigh = 0;
         std::uint16_t Length = 0; ///< Units; the top bit says two bytes a unit, all others set: see the arena.
 
+        Cell() = default;
+        Cell(std::size_t offset, std::size_t units, bool isWide);
+
         [[nodiscard]] std::uint32_t Offset() const { return OffsetLow | (std::uint32_t{OffsetHigh} << 16U); }
+        void Offset(std::size_t offset)
+        {
+            OffsetLow = static_cast<std::uint16_t>(offset & 0xFFFFU);
+            OffsetHigh = static_cast<std::uint16_t>(offset >> 16U);
+        }
     };
     struct Extent {
         std::size_t Begin; ///< Of the units, in the arena.
@@ -99,7 +107,11 @@ private:
     void Drop(Cell& cell);
     void Compact();
     void Resize(std::size_t capacity);
-    std::size_t Room(std::size_t bytes, std::size_t hint);
+    [[nodiscard]] char* Room(std::size_t bytes, std::size_t hint); ///< Behind what the arena holds; not taken yet.
+    std::size_t Take(std::size_t bytes); ///< Of the room; where it begins.
+    [[nodiscard]] static std::size_t BytesOf(std::u16string_view text, bool isWide);
+    static void Write(char* to, std::u16string_view text, bool isWide);
+    void Append(Cell& cell, std::u16string_view text, bool isWide, std::size_t hint);
     void CopyText(Cell& cell, const CellChunk& from, const Cell& source);
     void CopyRows(std::int32_t row, const CellChunk& from, std::int32_t firstRow, std::int32_t count);
     [[nodiscard]] std::size_t TextBytes(std::int32_t firstRow, std::int32_t count) const;

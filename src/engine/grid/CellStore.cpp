@@ -33,10 +33,8 @@ std::int32_t CellStore::ChunkRows() const
     return std::clamp(cellsOfChunk / std::max(cols_, 1), leastRows, mostRows);
 }
 
-std::size_t CellStore::Find(std::int32_t row) const
+std::size_t CellStore::FindAfresh(std::int32_t row) const
 {
-    if (hit_ < firsts_.size() && Holds(hit_, row))
-        return hit_;
     if (hit_ + 1 < firsts_.size() && Holds(hit_ + 1, row))
         return ++hit_;
     auto guess = std::min(static_cast<std::size_t>(row * chunksPerRow_), firsts_.size() - 1);
@@ -160,10 +158,8 @@ void CellStore::RemoveRow(std::int32_t row)
     }
 }
 
-CellChunk& CellStore::Held(std::size_t chunk, std::int32_t row)
+CellChunk& CellStore::Hold(std::size_t chunk, std::int32_t row)
 {
-    if (!chunks_[chunk]->IsBlank())
-        return *chunks_[chunk];
     // A blank stretch is as long as it is; only what is written into becomes a chunk of the ordinary size.
     const std::int32_t capacity = ChunkRows();
     const std::int32_t offset = row - firsts_[chunk];
@@ -195,12 +191,18 @@ bool CellStore::SetText(std::int32_t row, std::int32_t col, std::u16string_view 
     if (chunks_[found]->IsBlank() && text.empty())
         return false;
     CellChunk& chunk = Held(found, row);
-    if (&chunk != filling_) {
-        if (filling_ != nullptr)
-            textHint_ = filling_->Trim();
-        filling_ = &chunk;
+    if (&chunk != filling_)
+        Fill(chunk);
+    return chunk.SetText(row - firsts_[hit_], col, text, textHint_);
+}
+
+void CellStore::Fill(CellChunk& chunk)
+{
+    if (filling_ != nullptr) {
+        const std::size_t bytes = filling_->Trim();
+        textHint_ = bytes + bytes / 16;
     }
-    return chunk.SetText(row - firsts_[hit_], col, text, textHint_ + textHint_ / 16);
+    filling_ = &chunk;
 }
 
 std::optional<std::int32_t> CellStore::Color(std::int32_t row, std::int32_t col) const

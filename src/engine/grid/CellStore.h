@@ -51,13 +51,22 @@ private:
     {
         return firsts_[chunk] <= row && (chunk + 1 == firsts_.size() || row < firsts_[chunk + 1]);
     }
-    [[nodiscard]] std::size_t Find(std::int32_t row) const;
+    [[nodiscard]] std::size_t Find(std::int32_t row) const
+    {
+        return hit_ < firsts_.size() && Holds(hit_, row) ? hit_ : FindAfresh(row);
+    }
+    [[nodiscard]] std::size_t FindAfresh(std::int32_t row) const;
     [[nodiscard]] std::int32_t ChunkRows() const;
     CellChunk& Writable(std::int32_t row, std::int32_t& rowInChunk);
     void SplitChunk(std::size_t chunk, std::int32_t row);
     void PutChunk(std::size_t chunk, std::int32_t first, std::unique_ptr<CellChunk> added);
     void TakeChunk(std::size_t chunk);
-    CellChunk& Held(std::size_t chunk, std::int32_t row);
+    CellChunk& Held(std::size_t chunk, std::int32_t row)
+    {
+        return chunks_[chunk]->IsBlank() ? Hold(chunk, row) : *chunks_[chunk];
+    }
+    CellChunk& Hold(std::size_t chunk, std::int32_t row);
+    void Fill(CellChunk& chunk);
     void MoveFirsts(std::size_t from, std::int32_t by);
     [[nodiscard]] std::uint8_t BandNumber(const Band& band);
     void ForgetUnusedBands();

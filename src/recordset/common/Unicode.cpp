@@ -1,8 +1,9 @@
 #include "recordset/common/Unicode.h"
 
+#include "engine/runtime/ByteUnits.h"
+
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace Tessellon::Common {
 
@@ -10,13 +11,6 @@ namespace {
 
 constexpr char16_t Replacement = 0xFFFD;
 constexpr std::size_t Block = 16;
-
-bool IsAscii(const char* block)
-{
-    std::uint64_t halves[2];
-    std::memcpy(halves, block, Block);
-    return ((halves[0] | halves[1]) & 0x8080808080808080U) == 0;
-}
 
 struct Sequence {
     std::uint32_t Point = 0;
@@ -57,21 +51,14 @@ Sequence ReadSequence(const unsigned char* at, std::size_t left)
     return {point, length, true};
 }
 
-} // namespace
-
-std::u16string_view ToUtf16(std::string_view bytes, std::u16string& buffer)
+/// Returns how many units came of the bytes.
+std::size_t Decode(std::string_view bytes, char16_t* const units)
 {
-    // No byte gives more than one unit, so the bytes' count is room enough.
-    if (buffer.size() < bytes.size())
-        buffer.resize(bytes.size() + bytes.size() / 2);
-
     const char* at = bytes.data();
     const char* const end = at + bytes.size();
-    char16_t* out = buffer.data();
+    char16_t* out = units;
     while (at != end) {
-        while (static_cast<std::size_t>(end - at) >= Block && IsAscii(at)) {
-            for (std::size_t i = 0; i < Block; ++i)
-                out[i] = static_cast<unsigned char>(at[i]);
+        while (static_cast<std::size_t>(end - at) >= Block && Widen(out, {at, Block})) {
             at += Block;
             out += Block;
         }
@@ -95,7 +82,19 @@ std::u16string_view ToUtf16(std::string_view bytes, std::u16string& buffer)
             }
         }
     }
-    return {buffer.data(), static_cast<std::size_t>(out - buffer.data())};
+    return static_cast<std::size_t>(out - units);
+}
+
+} // namespace
+
+std::u16string_view ToUtf16(std::string_view bytes, std::u16string& buffer)
+{
+    // No byte gives more than one unit, so the bytes' count is room enough.
+    if (buffer.size() < bytes.size())
+        buffer.resize(bytes.size() + bytes.size() / 2);
+    if (Widen(buffer.data(), bytes))
+        return {buffer.data(), bytes.size()};
+    return {buffer.data(), Decode(bytes, buffer.data())};
 }
 
 std::u16string ToUtf16(std::string_view bytes)
