@@ -25,8 +25,10 @@ DayAndSecond Split(double serial)
 {
     if (!IsLegalSerial(serial))
         Fail(5, u"TessellonSheet");
-    const double whole = std::trunc(serial);
-    const auto day = static_cast<std::int64_t>(whole);
+    const auto day = static_cast<std::int64_t>(serial);
+    const auto whole = static_cast<double>(day);
+    if (whole == serial)
+        return {day, 0};
     const std::int64_t second = std::llround(std::abs(serial - whole) * static_cast<double>(secondsOfDay));
     if (second < secondsOfDay)
         return {day, second};

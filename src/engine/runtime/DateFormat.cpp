@@ -41,6 +41,7 @@ public:
         for (DateToken token; tokens.Next(token);)
             Write(token, twelveHours, inner);
     }
+    void Write(const DateToken& token, bool twelveHours, bool inner);
 
     void WriteGeneral()
     {
@@ -55,7 +56,6 @@ public:
     }
 
 private:
-    void Write(const DateToken& token, bool twelveHours, bool inner);
     void WriteWhole(const DateToken& token, std::u16string_view format, bool inner)
     {
         if (inner)
@@ -141,9 +141,21 @@ void DateWriter::Write(const DateToken& token, bool twelveHours, bool inner)
 
 } // namespace
 
-void AppendDate(std::u16string& out, double serial, std::u16string_view format, const Locale& locale)
+DatePattern::DatePattern(std::u16string_view format)
+    : format_(format)
+    , hasDateSigns_(NamedFormatOf(format) == NamedFormat::None && Tessellon::HasDateSigns(format))
+    , twelveHours_(CountsTwelveHours(format))
 {
-    DateWriter(out, locale, FieldsOf(serial)).Write(format);
+    DateTokens tokens(format);
+    for (DateToken token; tokens.Next(token);)
+        pieces_.push_back({token.Kind, static_cast<std::size_t>(token.Text.data() - format.data()), token.Text.size()});
+}
+
+void DatePattern::Append(std::u16string& out, double serial, const Locale& locale) const
+{
+    DateWriter writer(out, locale, FieldsOf(serial));
+    for (const Piece& piece : pieces_)
+        writer.Write({piece.Kind, Format().substr(piece.Begin, piece.Size)}, twelveHours_, false);
 }
 
 void AppendNamedDate(std::u16string& out, double serial, NamedFormat format, const Locale& locale)

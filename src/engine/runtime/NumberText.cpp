@@ -1,5 +1,6 @@
 #include "engine/runtime/NumberText.h"
 
+#include "engine/runtime/ByteUnits.h"
 #include "engine/runtime/CaseMap.h"
 #include "platform/RunTime.h"
 
@@ -195,6 +196,37 @@ bool AppendWhole(std::u16string& out, double real, double below)
     return true;
 }
 
+/// The quick way for what most numbers are, those of up to four decimals: the float nearest to such a number is what
+/// the division of its ten-thousandths, which are exact, gives.
+bool AppendFourDecimals(std::u16string& out, double real, char16_t decimalSeparator)
+{
+    constexpr double below = 1e11; // So that there are no more than 15 digits
+    constexpr std::int64_t parts = 10000;
+    if (!(std::abs(real) < below))
+        return false;
+    const auto all = static_cast<std::int64_t>(real * parts + (real < 0 ? -0.5 : 0.5));
+    if (static_cast<double>(all) / parts != real)
+        return false;
+    std::array<char16_t, 24> text;
+    auto start = text.end();
+    const std::int64_t size = std::abs(all);
+    if (size % parts != 0) {
+        for (std::int64_t worth = 1, rest = size % parts; worth < parts; worth *= 10, rest /= 10) {
+            if (start != text.end() || rest % 10 != 0)
+                *--start = static_cast<char16_t>(u'0' + rest % 10);
+        }
+        *--start = decimalSeparator;
+    }
+    std::int64_t whole = size / parts;
+    do
+        *--start = static_cast<char16_t>(u'0' + whole % 10);
+    while ((whole /= 10) > 0);
+    if (all < 0)
+        *--start = u'-';
+    out.append(start, text.end());
+    return true;
+}
+
 void AppendFloat(std::u16string& out, const DecimalDigits& digits, std::int64_t mostDigits, char16_t decimalSeparator)
 {
     constexpr std::int64_t smallestPoint = -3; // 0.0001 is 0.1 times ten to the power of -3
@@ -271,9 +303,12 @@ bool ReadDecimal(std::u16string_view text, DecimalDigits& digits)
 void AppendAscii(std::u16string& out, std::string_view text)
 {
     // Appending the range of another character type would go by way of a string of its own.
-    const std::size_t begin = out.size();
-    out.resize(begin + text.size());
-    std::copy(text.begin(), text.end(), out.begin() + static_cast<std::ptrdiff_t>(begin));
+    std::array<char16_t, 32> units;
+    for (; !text.empty(); text.remove_prefix(std::min(text.size(), units.size()))) {
+        const std::string_view part = text.substr(0, units.size());
+        Widen(units.data(), part);
+        out.append(units.data(), part.size());
+    }
 }
 
 void AppendPlain(std::u16string& out, const DecimalDigits& digits, char16_t decimalSeparator)
@@ -301,7 +336,7 @@ void AppendPlain(std::u16string& out, const DecimalDigits& digits, char16_t deci
 void AppendDouble(std::u16string& out, double real, char16_t decimalSeparator)
 {
     constexpr std::int64_t mostDigits = 15;
-    if (AppendNotFinite(out, real) || AppendWhole(out, real, 1e15))
+    if (AppendFourDecimals(out, real, decimalSeparator) || AppendNotFinite(out, real) || AppendWhole(out, real, 1e15))
         return;
     AppendFloat(out, DecimalDigits::OfDouble(real), mostDigits, decimalSeparator);
 }

@@ -4,6 +4,8 @@
 #include "engine/runtime/RunTimeFunctions.h"
 #include "platform/RunTime.h"
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -49,15 +51,16 @@ private:
     template <typename Fill>
     std::u16string_view Filled(Fill fill)
     {
-        other_.clear();
-        fill(other_);
-        text_.swap(other_);
-        return text_;
+        std::u16string& text = texts_[next_];
+        text.clear();
+        fill(text);
+        next_ = 1 - next_;
+        return text;
     }
 
     RunTimeFunctions functions_;
-    std::u16string text_;
-    std::u16string other_;
+    std::array<std::u16string, 2> texts_;
+    std::size_t next_ = 0;
 };
 
 } // namespace Tessellon

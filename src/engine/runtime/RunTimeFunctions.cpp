@@ -2,7 +2,6 @@
 
 #include "engine/Failures.h"
 #include "engine/runtime/Calendar.h"
-#include "engine/runtime/DateFormat.h"
 #include "engine/runtime/DateText.h"
 #include "engine/runtime/FormatSigns.h"
 #include "engine/runtime/MaskFormat.h"
@@ -107,13 +106,15 @@ void RunTimeFunctions::FormatMissing(std::u16string& out, std::u16string_view fo
 void RunTimeFunctions::FormatNumber(std::u16string& out, const Value& value, std::u16string_view format) const
 {
     const bool date = value.Type == Value::Kind::Date;
+    if (date) {
+        if (const DatePattern& pattern = PatternOf(format); pattern.HasDateSigns()) {
+            pattern.Append(out, value.Real, locale_);
+            return;
+        }
+    }
     const NamedFormat named = NamedFormatOf(format);
     if (date && IsNamedDate(named)) {
         AppendNamedDate(out, value.Real, named, locale_);
-        return;
-    }
-    if (date && named == NamedFormat::None && HasDateSigns(format)) {
-        AppendDate(out, value.Real, format, locale_);
         return;
     }
     const FormatTraits traits = named == NamedFormat::None ? TraitsOf(format) : FormatTraits();
@@ -126,7 +127,7 @@ void RunTimeFunctions::FormatNumber(std::u16string& out, const Value& value, std
     } else if (named != NamedFormat::None) {
         AppendNamedNumber(out, digits, named, locale_);
     } else if (traits.IsDate()) {
-        AppendDate(out, SerialOfNumber(digits), format, locale_);
+        PatternOf(format).Append(out, SerialOfNumber(digits), locale_);
     } else if (traits.IsMask()) {
         std::u16string text;
         GeneralTextTo(text, value);
@@ -134,6 +135,17 @@ void RunTimeFunctions::FormatNumber(std::u16string& out, const Value& value, std
     } else {
         AppendNumber(out, digits, format, locale_);
     }
+}
+
+const DatePattern& RunTimeFunctions::PatternOf(std::u16string_view format) const
+{
+    // The standard library compares texts of 16 bits unit by unit.
+    const auto isFormat = [format](std::u16string_view other) {
+        return std::equal(format.begin(), format.end(), other.begin(), other.end());
+    };
+    if (!pattern_ || !isFormat(pattern_->Format()))
+        pattern_.emplace(format);
+    return *pattern_;
 }
 
 void RunTimeFunctions::FormatText(std::u16string& out, std::u16string_view text, std::u16string_view format) const
@@ -165,7 +177,7 @@ void RunTimeFunctions::FormatText(std::u16string& out, std::u16string_view text,
     if (isDate && named != NamedFormat::None)
         AppendNamedDate(out, serial, named, locale_);
     else if (isDate)
-        AppendDate(out, serial, format, locale_);
+        PatternOf(format).Append(out, serial, locale_);
     else if (named != NamedFormat::None && numeric)
         AppendNamedNumber(out, digits, named, locale_);
     else if (numeric && traits.HasNumberSigns() && !traits.IsMask())

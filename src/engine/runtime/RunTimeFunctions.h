@@ -1,17 +1,20 @@
 #pragma once
 
+#include "engine/runtime/DateFormat.h"
 #include "engine/runtime/DateOrder.h"
 #include "engine/runtime/Locale.h"
 #include "platform/Value.h"
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace Tessellon {
 
-/// The run-time functions for one locale. What stands in a `To` function's first argument stays, the text goes behind.
+/// The run-time functions for one locale, for one thread at a time. What stands in a `To` function's first argument
+/// stays, the text goes behind.
 class RunTimeFunctions {
 public:
     explicit RunTimeFunctions(Locale locale);
@@ -46,10 +49,12 @@ private:
     void FormatMissing(std::u16string& out, std::u16string_view format) const;
     void FormatNumber(std::u16string& out, const Value& value, std::u16string_view format) const;
     bool ReadDateText(std::u16string_view text, double& serial) const;
+    [[nodiscard]] const DatePattern& PatternOf(std::u16string_view format) const;
 
     Locale locale_;
     DateOrdering ordering_;
     std::function<double()> now_;
+    mutable std::optional<DatePattern> pattern_; ///< Of the format in which a date was written last.
 };
 
 } // namespace Tessellon

@@ -1,5 +1,6 @@
 #include "Texts.h"
 
+#include "engine/runtime/NumberText.h"
 #include "platform/Failure.h"
 
 #include <gtest/gtest.h>
@@ -258,6 +259,16 @@ RC_GTEST_PROP(GeneralText, OfAnyDouble_IsReadBackToFifteenDigits, (std::int64_t 
         RC_ASSERT(functions.IsNumeric(text));
         RC_ASSERT(std::abs(functions.ToNumber(text) - number) <= std::abs(number) * 1e-14);
     }
+}
+
+RC_GTEST_PROP(GeneralText, OfAFewDecimals_IsWhatItsDigitsAre, (std::int64_t digits))
+{
+    const int decimals = *rc::gen::inRange(0, 8);
+    const double number = static_cast<double>(digits % 1'000'000'000'000'000) / std::pow(10.0, decimals);
+    std::u16string plain;
+    AppendPlain(plain, DecimalDigits::OfDouble(number), u'.');
+    if (number == 0.0 || std::abs(number) >= 0.0001)
+        RC_ASSERT(At2024().GeneralText(Value::OfDouble(number)) == (number == 0.0 ? u"0" : plain));
 }
 
 RC_GTEST_PROP(GeneralText, OfAnyInteger_IsReadBack, (std::int32_t number))
