@@ -143,7 +143,8 @@ void TessellonSheet::LoadCell(Recordset& recordset, std::int32_t row, std::int32
         MSFlexGrid1->TextMatrix(row, col, value.IsNull() ? u"" : RunTime->Format(value, DateFormatText));
         break;
     case FieldClass::Numeric: {
-        const Value number = value.IsNull() ? Value::OfInteger(0) : value;
+        const Value zero = Value::OfInteger(0);
+        const Value& number = value.IsNull() ? zero : value;
         MSFlexGrid1->TextMatrix(row, col,
                                 format.empty() ? RunTime->GeneralText(number) : RunTime->Format(number, format));
         break;

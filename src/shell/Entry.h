@@ -15,7 +15,7 @@ class TessellonSheet::Entry {
 public:
     explicit Entry(TessellonSheet& sheet)
         : sheet_(sheet)
-        , alive_(sheet.self_)
+        , alive_(sheet.depth_ == 0 ? sheet.self_ : nullptr)
         , calledByHost_(std::exchange(sheet.inHost_, false))
     {
         if (sheet_.depth_++ == 0) {
@@ -51,7 +51,7 @@ public:
 
 private:
     TessellonSheet& sheet_;
-    const std::shared_ptr<TessellonSheet> alive_;
+    const std::shared_ptr<TessellonSheet> alive_; ///< Of the outermost only: the others end within it.
     const bool calledByHost_;
 };
 

@@ -115,9 +115,11 @@ std::u16string SqliteRecordset::FieldName(std::int32_t field)
 
 Value SqliteRecordset::FieldValue(std::int32_t field)
 {
-    Arrive();
-    if (place_ == Place::End)
-        Fail(NoCurrentRecord, u"Recordset");
+    if (place_ != Place::Record) {
+        Arrive();
+        if (place_ == Place::End)
+            Fail(NoCurrentRecord, u"Recordset");
+    }
     CheckField(field);
 
     const Reading reading = fields_[static_cast<std::size_t>(field)].As;
@@ -137,7 +139,7 @@ Value SqliteRecordset::FieldValue(std::int32_t field)
     }
     case SQLITE_FLOAT: return OfNumber(sqlite3_value_double(value), reading);
     case SQLITE_TEXT: return Sqlite::ReadText(Characters(value), reading);
-    case SQLITE_BLOB: return Value::OfText(reading == Reading::Text ? Characters(value) : HexadecimalDigits(value));
+    case SQLITE_BLOB: return Value::OfText(reading == Reading::Text ? BytesAsText(value) : HexadecimalDigits(value));
     default: return Value::Null();
     }
 }
@@ -222,7 +224,7 @@ void SqliteRecordset::CheckField(std::int32_t field) const
 
 std::u16string_view SqliteRecordset::Characters(sqlite3_value* value)
 {
-    if (database_->StoresUtf16() && sqlite3_value_type(value) == SQLITE_TEXT) {
+    if (database_->StoresUtf16()) {
         const void* units = sqlite3_value_text16(value);
         if (units == nullptr)
             throw database_->Noted(SQLITE_NOMEM, SqliteDatabase::Stage::Walking);
@@ -233,13 +235,18 @@ std::u16string_view SqliteRecordset::Characters(sqlite3_value* value)
         std::memcpy(text_.data(), units, count * sizeof(char16_t));
         return {text_.data(), count};
     }
-    const void* bytes = sqlite3_value_type(value) == SQLITE_TEXT ? static_cast<const void*>(sqlite3_value_text(value))
-                                                                 : sqlite3_value_blob(value);
-    if (bytes == nullptr) {
-        if (sqlite3_value_type(value) == SQLITE_TEXT)
-            throw database_->Noted(SQLITE_NOMEM, SqliteDatabase::Stage::Walking);
+    const unsigned char* bytes = sqlite3_value_text(value);
+    if (bytes == nullptr)
+        throw database_->Noted(SQLITE_NOMEM, SqliteDatabase::Stage::Walking);
+    const auto count = static_cast<std::size_t>(sqlite3_value_bytes(value));
+    return Common::ToUtf16({reinterpret_cast<const char*>(bytes), count}, text_);
+}
+
+std::u16string_view SqliteRecordset::BytesAsText(sqlite3_value* value)
+{
+    const void* bytes = sqlite3_value_blob(value);
+    if (bytes == nullptr)
         return {};
-    }
     const auto count = static_cast<std::size_t>(sqlite3_value_bytes(value));
     return Common::ToUtf16({static_cast<const char*>(bytes), count}, text_);
 }

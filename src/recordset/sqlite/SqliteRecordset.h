@@ -63,6 +63,7 @@ private:
     void CheckField(std::int32_t field) const;
 
     [[nodiscard]] std::u16string_view Characters(sqlite3_value* value);
+    [[nodiscard]] std::u16string_view BytesAsText(sqlite3_value* value);
     [[nodiscard]] std::u16string_view HexadecimalDigits(sqlite3_value* value);
 
     std::shared_ptr<SqliteDatabase> database_;
