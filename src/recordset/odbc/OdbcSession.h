@@ -26,7 +26,7 @@ public:
     [[nodiscard]] bool IsOpen() const { return isOpen_; }
     [[nodiscard]] SQLHDBC Handle() const { return connection_; }
     /// False for a driver that has no wide functions. The driver manager would turn what it is to give them into the
-    /// locale's letters and cut the rest, so such a driver is given UTF-8 instead, which passes as it is.
+    /// locale's letters and cut the rest, so such a driver is given UTF-8 instead, which passes as it is, and gives it.
     [[nodiscard]] bool IsWide() const { return isWide_; }
 
     /// A recordset that has not read all of its records yet, until it has or is gone.

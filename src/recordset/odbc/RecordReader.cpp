@@ -62,6 +62,7 @@ RecordReader::RecordReader(std::unique_ptr<Statement> statement)
 void RecordReader::Describe()
 {
     const int count = statement_->ColumnCount();
+    const bool isWide = statement_->Session().IsWide();
     for (int number = 1; number <= count; ++number) {
         Described described = statement_->Column(number);
         const FieldShape shape = ShapeOf(described.SqlType, described.IsUnsigned, described.TypeName);
@@ -77,8 +78,8 @@ void RecordReader::Describe()
             column.Width = sizeof(double);
             break;
         case Reading::Text:
-            column.CType = SQL_C_WCHAR;
-            column.Terminator = sizeof(char16_t);
+            column.CType = isWide ? SQL_C_WCHAR : SQL_C_CHAR;
+            column.Terminator = isWide ? sizeof(char16_t) : 1;
             column.Width = (ShortOf(described.Size) + 1) * sizeof(char16_t);
             break;
         case Reading::Bytes:

@@ -1,7 +1,9 @@
 #include "recordset/odbc/OdbcTest.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <malloc.h>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -38,6 +40,18 @@ TEST_F(OdbcErrors, OfADataSourceThatIsNotThere)
     ExpectFirst(connection, failure, Unspecified, u"IM002");
     EXPECT_EQ(failure.Description,
               u"[unixODBC][Driver Manager]Data source name not found and no default driver specified");
+}
+
+TEST_F(OdbcErrors, OfADataSourceThatIsThere_AreNone)
+{
+    Make("CREATE TABLE t (n INTEGER); INSERT INTO t VALUES (5)");
+    std::ofstream(Path("odbc.ini")) << "[orders of this test]\nDriver = SQLite3\nDatabase = " << Path().string()
+                                    << '\n';
+    setenv("ODBCINI", Path("odbc.ini").c_str(), 1);
+    const auto connection = OdbcConnection::Open(u"DSN=orders of this test");
+    unsetenv("ODBCINI");
+    EXPECT_TRUE(connection->Errors().empty());
+    EXPECT_EQ(TellAll(*connection->Query(u"SELECT n FROM t")), std::vector<std::string>{"integer 5"});
 }
 
 TEST_F(OdbcErrors, OfADriverThatIsNotThere_NameIt)

@@ -115,6 +115,22 @@ TEST_F(PostgresRecords, NumbersBeyondADouble_KeepTheirDigits)
     EXPECT_EQ(Told(FromPostgres(u"SELECT 1e400::numeric")->FieldValue(0)), "decimal 1" + std::string(400, '0'));
 }
 
+TEST_F(PostgresRecords, DriverWithoutWideFunctions_GivesTheSameLetters)
+{
+    std::u16string text = PostgresText();
+    text.replace(text.find(u"PostgreSQL Unicode"), 18, u"PostgreSQL ANSI");
+    const auto connection = OdbcConnection::Open(text);
+    const auto records = connection->Query(u"SELECT 'äЖ😀'::text AS \"größe\", repeat('😀', 3000)::text, 7, 1.50, true");
+    EXPECT_EQ(records->FieldName(0), u"größe");
+    EXPECT_EQ(Told(records->FieldValue(0)), "text äЖ😀");
+    EXPECT_EQ(records->FieldValue(1).Characters.size(), 6000U);
+    EXPECT_EQ(Told(records->FieldValue(2)), "integer 7");
+    EXPECT_EQ(Told(records->FieldValue(3)), "decimal 1.50");
+    EXPECT_EQ(Told(records->FieldValue(4)), "true");
+    EXPECT_NE(FailureOf([&] { connection->Query(u"SELECT * FROM größe"); }).Description.find(u"relation \"größe\""),
+              std::u16string::npos);
+}
+
 TEST_F(PostgresRecords, FieldsHaveTheirNames)
 {
     const auto records = FromPostgres(u"SELECT 1 AS \"größe 😀\", 2 AS n");

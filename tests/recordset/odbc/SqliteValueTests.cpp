@@ -73,22 +73,13 @@ INSTANTIATE_TEST_SUITE_P(
 
 using SqliteOdbcRecords = OdbcTest;
 
-TEST_F(SqliteOdbcRecords, TextThatIsNoUtf8_ComesWithItsSoundLetters)
+TEST_F(SqliteOdbcRecords, BytesThatAreNoUtf8_AreReplaced)
 {
     Make("CREATE TABLE t (a TEXT, n INTEGER)");
-    Writer(Path()).DoWithText("INSERT INTO t VALUES (?, 7)", std::string("a\xFF\xC3(z"));
+    Writer(Path()).DoWithText("INSERT INTO t VALUES (?1, ?1)", std::string("a\xFF\xC3(z"));
     const auto records = FromSqlite(u"SELECT a, n FROM t");
-    const std::u16string text(records->FieldValue(0).Characters);
-    EXPECT_TRUE(text.starts_with(u"a"));
-    EXPECT_TRUE(text.ends_with(u"z"));
-    EXPECT_EQ(records->FieldValue(1).Integer, 7);
-}
-
-TEST_F(SqliteOdbcRecords, NumbersThatAreNoUtf8_AreReplaced)
-{
-    Make("CREATE TABLE t (n INTEGER)");
-    Writer(Path()).DoWithText("INSERT INTO t VALUES (?)", std::string("a\xFF\xC3(z"));
-    EXPECT_EQ(FromSqlite(u"SELECT n FROM t")->FieldValue(0).Characters, u"a\xFFFD\xFFFD(z");
+    EXPECT_EQ(records->FieldValue(0).Characters, u"a\xFFFD\xFFFD(z");
+    EXPECT_EQ(records->FieldValue(1).Characters, u"a\xFFFD\xFFFD(z");
 }
 
 TEST_F(SqliteOdbcRecords, QueriesFieldsAndFilesMayHaveAnyLetters)
