@@ -12,7 +12,9 @@ program=(
     unixodbc-dev      # records through ODBC
     odbc-postgresql   # its driver for PostgreSQL servers
     libsqliteodbc     # and for SQLite databases
-    qt6-base-dev      # the desktop platform
+    qt6-base-dev      # the desktop platform, and records from Qt's queries
+    libqt6sql6-psql   # Qt's driver for PostgreSQL servers
+    libqt6sql6-sqlite # and for SQLite databases
     fonts-dejavu-core # a font to draw with where no desktop is installed
 )
 test=(
@@ -21,8 +23,6 @@ test=(
     xvfb              # a display for the tests of real windows
     openbox           # their window manager: without one the focus never comes back from a box
     xdotool           # their keyboard and mouse
-    libqt6sql6-sqlite # Qt's driver for SQLite, for records that come from a query of Qt's
-    libqt6sql6-psql   # the same for PostgreSQL, which answers in other ways
     postgresql        # a server that the tests start for themselves, for records that come from one
     python3           # plays the users and callers of the example
     clang-format      # the layout of the sources
@@ -30,7 +30,6 @@ test=(
 bench=(
     libbenchmark-dev   # measures what takes nanoseconds
     libwxgtk3.2-dev    # a grid to compare with
-    libqt6sql6-sqlite  # the driver of Qt's own table of a database, another one
     xvfb               # a display for what is painted
     openbox            # its window manager
     xdotool            # tells when that one is there

@@ -1,6 +1,7 @@
 #include "orders/ColumnSummary.h"
 
 #include "orders/Columns.h"
+#include "orders/Quiet.h"
 #include "qt/SheetWidget.h"
 
 #include <QElapsedTimer>
@@ -17,24 +18,6 @@ namespace {
 constexpr double shortestPause = 100;
 constexpr double longestPause = 10'000;
 constexpr double pauseToCost = 3;
-
-/// A sum past all numbers is said in the status line; nobody asked for a box.
-class Quiet {
-public:
-    explicit Quiet(SheetWidget& sheet)
-        : sheet_(sheet)
-        , before_(sheet.ShowErrMessage())
-    {
-        sheet_.ShowErrMessage(false);
-    }
-    Quiet(const Quiet&) = delete;
-    Quiet& operator=(const Quiet&) = delete;
-    ~Quiet() { sheet_.ShowErrMessage(before_); }
-
-private:
-    SheetWidget& sheet_;
-    bool before_;
-};
 
 /// Dates with the year first and the day last stand in the order of their texts, which compare ten times as quickly.
 ManipulateType ComparedAs(const Column& column)
@@ -96,6 +79,7 @@ void ColumnSummary::Go()
     QElapsedTimer clock;
     clock.start();
     {
+        // A sum past all numbers is said in the status line; nobody asked for a box.
         const Quiet quiet(sheet_);
         Take(step, *column);
     }

@@ -3,8 +3,10 @@
 #include "orders/OrdersDatabase.h"
 #include "orders/OrdersWindow.h"
 #include "orders/Picture.h"
+#include "orders/QuerySource.h"
 #include "orders/Source.h"
 #include "qt/SheetWidget.h"
+#include "roads/Secrets.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -17,6 +19,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
@@ -76,10 +79,14 @@ std::string Megabytes(std::optional<std::int64_t> bytes)
     return QLocale::c().toString(static_cast<double>(*bytes) / megabyte, 'f', 1).toStdString() + " MB";
 }
 
-void PrintCosts(double seconds, const BareLoopCost& bare)
+void PrintCost(double seconds)
 {
     std::printf("%-12s %10s %12s\n", "", "load", "peak memory");
     std::printf("%-12s %8.3f s %12s\n", "this program", seconds, Megabytes(PeakMemory()).c_str());
+}
+
+void PrintBareLoop(double seconds, const BareLoopCost& bare)
+{
     std::printf("%-12s %8.3f s %12s\n", "bare loop", bare.Result.Seconds, Megabytes(bare.PeakMemory).c_str());
     std::printf("%-12s %8.2f x  for %lld orders; the loop walks the query twice and reads every field once as text\n",
                 "", seconds / bare.Result.Seconds, static_cast<long long>(bare.Result.Rows));
@@ -88,11 +95,11 @@ void PrintCosts(double seconds, const BareLoopCost& bare)
 /// The arguments are all ours: Qt gets none. Ends the program where there is no display to draw on.
 class Desktop {
 public:
-    explicit Desktop(char** arguments)
+    Desktop(char** arguments, const QString& title)
         : handler_(qInstallMessageHandler(SayFatal))
         , application_(count_, arguments)
     {
-        QApplication::setApplicationDisplayName(QStringLiteral("Orders"));
+        QApplication::setApplicationDisplayName(title);
     }
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
@@ -104,27 +111,51 @@ private:
     QApplication application_;
 };
 
-void Draw(const Options& options, char** arguments)
-{
-    const std::filesystem::path database = DatabaseOf(options);
-    const Source source = OpenDatabase(database);
-    // Ahead of the desktop, which has threads.
-    const BareLoopCost bare = RunBareLoopApart(database, Query);
+const QString ordersTitle = QStringLiteral("Orders");
+const QString queryTitle = QStringLiteral("Query");
 
-    const Desktop desktop(arguments);
-    OrdersWindow window;
+/// Rows of any query, whose columns are as its fields.
+std::unique_ptr<SheetWindow> WindowOfQuery(const Source& source)
+{
+    auto window = std::make_unique<SheetWindow>(SheetWindow::tr("rows"), SheetWindow::tr("&Rows"), source.Layout);
+    window->setWindowTitle(queryTitle);
+    return window;
+}
+
+/// Fills the window and draws it. Gives the seconds that the load took.
+double Draw(const Options& options, SheetWindow& window, const Source& source, const QString& typed)
+{
     if (options.Log)
         window.Log().WriteInto(*options.Log);
     // Nobody could close a message box.
     window.Sheet().ShowErrMessage(false);
     window.show();
     const double seconds = window.Load(source);
-    if (!window.LoadFailure().empty())
-        throw std::runtime_error("cannot read " + database.string() + ": " + window.LoadFailure());
-    const QImage picture = PictureOfAnEdit(window);
+    if (!window.LoadFailure().isEmpty())
+        throw std::runtime_error(window.LoadFailure().toStdString());
+    const QImage picture = PictureOfAnEdit(window, typed);
     window.Log().WriteCells();
     SavePicture(picture, *options.Picture);
-    PrintCosts(seconds, bare);
+    PrintCost(seconds);
+    return seconds;
+}
+
+void DrawOrders(const Options& options, char** arguments)
+{
+    const std::filesystem::path database = DatabaseOf(options);
+    Source source = OpenDatabase(database);
+    // Ahead of the desktop, which has threads.
+    const BareLoopCost bare = RunBareLoopApart(database, Query);
+    const Desktop desktop(arguments, ordersTitle);
+    OrdersWindow window;
+    PrintBareLoop(Draw(options, window, source, QStringLiteral(" & Daughters")), bare);
+}
+
+void DrawQuery(const Options& options, char** arguments)
+{
+    const Desktop desktop(arguments, queryTitle);
+    const Source source = OpenQuery(*options.Connection, *options.Query);
+    Draw(options, *WindowOfQuery(source), source, {});
 }
 
 /// A load lets no event in, not even the one by which the window is first painted.
@@ -140,11 +171,8 @@ void AwaitPicture(const QWidget& window)
     }
 }
 
-int Show(const Options& options, char** arguments)
+int Show(const Options& options, SheetWindow& window, const Source& source)
 {
-    const Desktop desktop(arguments);
-    const Source source = OpenDatabase(DatabaseOf(options));
-    OrdersWindow window;
     if (options.Log)
         window.Log().WriteInto(*options.Log);
     constexpr QSize frame(20, 60);
@@ -157,6 +185,21 @@ int Show(const Options& options, char** arguments)
     return status;
 }
 
+int ShowOrders(const Options& options, char** arguments)
+{
+    const Desktop desktop(arguments, ordersTitle);
+    const Source source = OpenDatabase(DatabaseOf(options));
+    OrdersWindow window;
+    return Show(options, window, source);
+}
+
+int ShowQuery(const Options& options, char** arguments)
+{
+    const Desktop desktop(arguments, queryTitle);
+    const Source source = OpenQuery(*options.Connection, *options.Query);
+    return Show(options, *WindowOfQuery(source), source);
+}
+
 int Run(int count, char** arguments)
 {
     const Options options = ParseOptions(count, arguments);
@@ -167,8 +210,8 @@ int Run(int count, char** arguments)
     ChooseDisplay(options);
     CheckPlaces(options);
     if (!options.Picture)
-        return Show(options, arguments);
-    Draw(options, arguments);
+        return options.Connection ? ShowQuery(options, arguments) : ShowOrders(options, arguments);
+    options.Connection ? DrawQuery(options, arguments) : DrawOrders(options, arguments);
     return EXIT_SUCCESS;
 }
 
@@ -181,7 +224,10 @@ int main(int count, char** arguments)
     try {
         return Orders::Run(count, arguments);
     } catch (const std::exception& failure) {
-        std::fprintf(stderr, "orders: %s\n", failure.what());
+        Roads::Secrets secrets;
+        for (int i = 1; i < count; ++i)
+            secrets.Gather(arguments[i]);
+        std::fprintf(stderr, "orders: %s\n", secrets.Hide(failure.what()).c_str());
         return Orders::cannotBeDone;
     }
 }

@@ -1,5 +1,7 @@
 #include "orders/Options.h"
 
+#include "roads/Road.h"
+
 #include <charconv>
 #include <stdexcept>
 #include <string>
@@ -72,6 +74,24 @@ std::int64_t RowsOf(const std::string& text)
     return rows;
 }
 
+void CheckTogether(const Options& options)
+{
+    if (options.Database && options.Rows)
+        Refuse("--rows makes orders and --database shows those of a file; say only one of them");
+    if ((options.Connection || options.Query) && (options.Database || options.Rows))
+        Refuse("--connection shows what a query gives; leave --database and --rows out");
+    if (options.Connection && !options.Query)
+        Refuse("--connection wants to know what to show: say --query \"SELECT ...\" with it");
+    if (options.Query && !options.Connection)
+        Refuse("--query wants to know where to ask: say --connection TEXT with it");
+}
+
+/// What is shown is read from there.
+std::optional<std::filesystem::path> ReadFile(const Options& options)
+{
+    return options.Connection ? Roads::Address(*options.Connection).File() : options.Database;
+}
+
 void CheckPlace(const char* option, const std::filesystem::path& path, const Options& options)
 {
     const auto refuse = [&](const std::string& why) {
@@ -84,7 +104,8 @@ void CheckPlace(const char* option, const std::filesystem::path& path, const Opt
     if (!std::filesystem::is_directory(folder, ignored))
         refuse("there is no folder " + folder.string() + "; make it first");
     const bool isThere = std::filesystem::exists(path, ignored);
-    if (isThere && options.Database && std::filesystem::equivalent(path, *options.Database, ignored))
+    const std::optional<std::filesystem::path> read = ReadFile(options);
+    if (isThere && read && std::filesystem::equivalent(path, *read, ignored))
         refuse("it is the database that is shown; name another file");
     if (access(isThere ? path.c_str() : folder.c_str(), W_OK) != 0)
         refuse("writing there is not allowed; name a file in another folder");
@@ -102,6 +123,10 @@ Options ParseOptions(int count, const char* const* arguments)
             options.Database = given.Value("FILE");
         else if (name == "--rows")
             options.Rows = RowsOf(given.Value("N"));
+        else if (name == "--connection")
+            options.Connection = given.Value("TEXT");
+        else if (name == "--query")
+            options.Query = given.Value("\"SELECT ...\"");
         else if (name == "--picture")
             options.Picture = given.Value("FILE");
         else if (name == "--log")
@@ -111,8 +136,8 @@ Options ParseOptions(int count, const char* const* arguments)
         else
             Refuse("unknown option \"" + std::string(name) + "\"; --help lists the options");
     }
-    if (options.Database && options.Rows && !options.Help)
-        Refuse("--rows makes orders and --database shows those of a file; say only one of them");
+    if (!options.Help)
+        CheckTogether(options);
     return options;
 }
 

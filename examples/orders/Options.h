@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace Orders {
 
@@ -10,6 +11,8 @@ namespace Orders {
 struct Options {
     std::optional<std::filesystem::path> Database;
     std::optional<std::int64_t> Rows;
+    std::optional<std::string> Connection; ///< With a query, and the other way round.
+    std::optional<std::string> Query;
     std::optional<std::filesystem::path> Picture;
     std::optional<std::filesystem::path> Log;
     bool Help = false;

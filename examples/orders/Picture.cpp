@@ -1,6 +1,6 @@
 #include "orders/Picture.h"
 
-#include "orders/OrdersWindow.h"
+#include "orders/SheetWindow.h"
 #include "qt/SheetWidget.h"
 
 #include <QApplication>
@@ -8,12 +8,11 @@
 #include <QKeyEvent>
 #include <QThread>
 
+#include <algorithm>
+
 namespace Orders {
 
 namespace {
-
-constexpr int editedRow = 4;
-constexpr int customerCol = 2;
 
 void Press(int key, const QString& text = {})
 {
@@ -34,7 +33,7 @@ void Type(const QString& text)
 }
 
 /// Until the window is in front, the panel has shown what came and the column is summed up.
-void Settle(const OrdersWindow& window)
+void Settle(const SheetWindow& window)
 {
     constexpr int enough = 300;
     constexpr int most = 5'000;
@@ -49,19 +48,20 @@ void Settle(const OrdersWindow& window)
 
 } // namespace
 
-QImage PictureOfAnEdit(OrdersWindow& window)
+QImage PictureOfAnEdit(SheetWindow& window, const QString& typed)
 {
+    constexpr int editedRow = 4;
     // A caret that blinks would be in one picture and not in the next.
     QApplication::setCursorFlashTime(0);
     window.activateWindow();
     Settle(window);
     Tessellon::SheetWidget& sheet = window.Sheet();
     sheet.setFocus();
-    sheet.Row(editedRow);
-    sheet.Col(customerCol);
+    sheet.Row(std::min(editedRow, sheet.Rows() - 1));
+    sheet.Col(window.FirstTypedCol());
     Press(Qt::Key_F2);
     Press(Qt::Key_End);
-    Type(QStringLiteral(" & Daughters"));
+    Type(typed);
     Settle(window);
     return window.grab().toImage();
 }

@@ -64,11 +64,17 @@ bool SheetWindow::LeaveCell()
     return !sheet_->isAncestorOf(QApplication::focusWidget());
 }
 
-/// Back into the sheet, with the editor of that cell up. Not every desktop brings the window back behind a box.
-void SheetWindow::EnterCell(int row, int col)
+/// Not every desktop brings the window back behind a box.
+void SheetWindow::ComeToFront()
 {
     if (!isActiveWindow())
         activateWindow();
+}
+
+/// Back into the sheet, with the editor of that cell up.
+void SheetWindow::EnterCell(int row, int col)
+{
+    ComeToFront();
     bool hasScrolled = false;
     const auto listening = connect(sheet_, &SheetWidget::Scroll, this, [&] { hasScrolled = true; });
     const auto enter = [&] {
@@ -93,6 +99,15 @@ void SheetWindow::Tell(const QString& message)
 {
     constexpr int milliseconds = 8'000;
     statusBar()->showMessage(message, milliseconds);
+}
+
+/// In the words of others, which are no markup.
+void SheetWindow::TellFailure(const QString& title, const QString& words)
+{
+    QMessageBox box(QMessageBox::Critical, title, words, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+    ComeToFront();
 }
 
 bool SheetWindow::Ask(const QString& title, const QString& question, const QString& details, const QString& yes)
@@ -158,11 +173,12 @@ void SheetWindow::Reload()
         const QString key = sheet_->TextMatrix(row, columns_.Key);
         try {
             Load(openAgain_());
-            message = tr("%L1 %2 were loaded.").arg(sheet_->Rows() - 1).arg(rows_);
+            if (loadFailure_.isEmpty())
+                message = tr("%L1 %2 were loaded.").arg(sheet_->Rows() - 1).arg(rows_);
             if (const int found = sheet_->SearchCol(columns_.Key, key); found > 0)
                 row = found;
         } catch (const std::exception& failure) {
-            QMessageBox::critical(this, tr("Reload"), QString::fromUtf8(failure.what()));
+            TellFailure(tr("Reload"), QString::fromUtf8(failure.what()));
         }
     }
     EnterCell(row, col);

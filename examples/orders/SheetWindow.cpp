@@ -4,6 +4,7 @@
 #include "orders/FindBar.h"
 #include "orders/LoadBar.h"
 #include "orders/OneLineLabel.h"
+#include "orders/Quiet.h"
 #include "platform/Failure.h"
 #include "qt/SheetWidget.h"
 
@@ -146,26 +147,15 @@ void SheetWindow::Use(const Columns& columns)
 double SheetWindow::Load(const Source& source)
 {
     // Behind a load that failed, or with none to come in their place, earlier rows would stay.
-    if (source.Layout != columns_ || hasLoadFailed_ || (sheet_->Rows() > 1 && IsEmpty(*source.Records)))
+    if (source.Layout != columns_ || !loadFailure_.isEmpty() || (sheet_->Rows() > 1 && IsEmpty(*source.Records)))
         Use(source.Layout);
     openAgain_ = source.OpenAgain;
     loadFailure_.clear();
-    hasLoadFailed_ = false;
-    const auto listening =
-        connect(sheet_, &SheetWidget::ErrInfo, this, [this](int /*number*/, const QString& description) {
-            hasLoadFailed_ = true;
-            if (loadFailure_.empty())
-                loadFailure_ = description.toStdString();
-        });
     edits_.Pause();
     log_.LoadBegins();
-    QElapsedTimer timer;
-    timer.start();
-    sheet_->DataSource(source.Records, source.Connection);
-    const double seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
-    bar_->hide();
+    const double seconds = Fill(source);
     log_.LoadEnds();
-    disconnect(listening);
+    bar_->hide();
     const int rows = sheet_->Rows() - 1;
     if (rows == 0)
         sheet_->Col(FirstTypedCol());
@@ -174,6 +164,26 @@ double SheetWindow::Load(const Source& source)
     edits_.Restart();
     summary_.CellsChanged();
     log_.Tell(QStringLiteral("loaded"), tr("%L1 rows in %L2 s").arg(rows).arg(seconds, 0, 'f', 3));
+    if (!loadFailure_.isEmpty() && sheet_->ShowErrMessage())
+        TellFailure(tr("Load"), loadFailure_ + u'\n' + tr("F5 tries again."));
+    return seconds;
+}
+
+/// The walk that counts and the walk that reads may both fail, and a connection may have much to say: the first is what
+/// is told.
+double SheetWindow::Fill(const Source& source)
+{
+    const Quiet quiet(*sheet_);
+    const auto listening =
+        connect(sheet_, &SheetWidget::ErrInfo, this, [&](int /*number*/, const QString& description) {
+            if (loadFailure_.isEmpty())
+                loadFailure_ = tr("cannot read %1: %2").arg(source.Name, description.simplified());
+        });
+    QElapsedTimer timer;
+    timer.start();
+    sheet_->DataSource(source.Records, source.Connection);
+    const double seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    disconnect(listening);
     return seconds;
 }
 

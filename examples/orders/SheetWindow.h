@@ -13,7 +13,6 @@
 
 #include <functional>
 #include <optional>
-#include <string>
 
 class QLabel;
 class QMenu;
@@ -36,13 +35,14 @@ public:
     /// What the rows are called, as "orders", and the title of their menu, as "&Orders".
     SheetWindow(const QString& rows, const QString& menu, const Columns& columns);
 
-    /// Fills the sheet. What fails is told by the sheet itself, in a message box or by ErrInfo. Gives the seconds that
-    /// the statement took.
+    /// Fills the sheet. What fails is told in one box, unless the sheet is to show none. Gives the seconds that the
+    /// statement took.
     double Load(const Source& source);
-    /// What ErrInfo said of the last load; empty if nothing, and where a message box has said it.
-    [[nodiscard]] const std::string& LoadFailure() const { return loadFailure_; }
+    /// Why the last load broke off, in one line; empty if it did not.
+    [[nodiscard]] const QString& LoadFailure() const { return loadFailure_; }
 
     [[nodiscard]] Tessellon::SheetWidget& Sheet() const { return *sheet_; }
+    [[nodiscard]] int FirstTypedCol() const; ///< The first with an editor; 1 if none has.
     [[nodiscard]] HostLog& Log() { return log_; }
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -59,11 +59,12 @@ private:
     void Use(const Columns& columns); ///< Empties the sheet.
     void ColorBands();
     [[nodiscard]] BandColors DesktopColors() const;
+    double Fill(const Source& source);
     void ShowPlace();
-    [[nodiscard]] int FirstTypedCol() const; ///< The first with an editor; 1 if none has.
 
     // What the menus do.
     bool LeaveCell();
+    void ComeToFront();
     void EnterCell(int row, int col);
     void AddRow(int behind);
     void DeleteRow();
@@ -73,6 +74,7 @@ private:
     void FindNext();
     void ChooseColors();
     void ExplainKeys();
+    void TellFailure(const QString& title, const QString& words);
     bool Ask(const QString& title, const QString& question, const QString& details, const QString& yes);
 
     const QString rows_;
@@ -88,8 +90,7 @@ private:
     LoadBar* bar_;
     QLabel* place_;
     std::function<Source()> openAgain_;
-    bool hasLoadFailed_ = false;
-    std::string loadFailure_;
+    QString loadFailure_;
     std::optional<BandColors> colors_; ///< None while they are the desktop's.
     QString found_; ///< A search for the same again goes on from the current row.
 };

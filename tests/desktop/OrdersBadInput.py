@@ -10,16 +10,6 @@ from orders_program import ProgramTest
 
 
 class OrdersBadInput(ProgramTest):
-    def refused(self, *arguments, **environment):
-        before = self.files()
-        result = self.run_program(*arguments, **environment)
-        self.assertEqual(result.returncode, 2, result)
-        self.assertEqual(result.stdout, "")
-        self.assertEqual(result.stderr.count("\n"), 1, result.stderr)
-        self.assertTrue(result.stderr.startswith("orders: ") and result.stderr.endswith("\n"), result.stderr)
-        self.assertEqual(self.files(), before)
-        return result.stderr
-
     def database(self, statements, name="orders.db"):
         path = self.folder / name
         connection = sqlite3.connect(path)
@@ -35,7 +25,7 @@ class OrdersBadInput(ProgramTest):
         self.assertIn('unknown option "-platform"', self.refused("-platform", "offscreen"))
 
     def test_option_without_value_is_named(self):
-        for option in "--rows", "--database", "--picture", "--log":
+        for option in "--rows", "--database", "--connection", "--query", "--picture", "--log":
             self.assertIn(f"{option} needs a value", self.refused(option))
             self.assertIn(f"{option} needs a value", self.refused(option + "="))
 
@@ -126,7 +116,8 @@ class OrdersBadInput(ProgramTest):
     def test_help_is_said_with_all_options(self):
         result = self.run_program("--help")
         self.assertEqual((result.returncode, result.stderr), (0, ""))
-        for option in "--database FILE", "--rows N", "--picture FILE", "--log FILE", "--help":
+        for option in ("--database FILE", "--rows N", "--connection TEXT", "--query", "--picture FILE", "--log FILE",
+                       "--help"):
             self.assertIn(option, result.stdout)
         self.assertEqual(self.files(), [])
         root = pathlib.Path(__file__).resolve().parents[2]

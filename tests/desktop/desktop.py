@@ -89,7 +89,7 @@ class Desktop:
         self.do("key", "--clearmodifiers", *keys)
 
     def type(self, text):
-        self.do("type", "--delay", "5", text)
+        self.do("type", "--delay", "5", "--", text)
 
     def pixels(self):
         """The screen as it is: its rows of red, green and blue."""

@@ -50,3 +50,14 @@ class ProgramTest(unittest.TestCase):
     def run_program(self, *arguments, **environment):
         return subprocess.run([PROGRAM, *map(str, arguments)], cwd=self.folder, text=True, capture_output=True,
                               stdin=subprocess.DEVNULL, env={**self.environment, **environment}, timeout=60)
+
+    def refused(self, *arguments, **environment):
+        """The message of a run that can do nothing and leaves nothing behind."""
+        before = self.files()
+        result = self.run_program(*arguments, **environment)
+        self.assertEqual(result.returncode, 2, result)
+        self.assertEqual(result.stdout, "")
+        self.assertEqual(result.stderr.count("\n"), 1, result.stderr)
+        self.assertTrue(result.stderr.startswith("orders: ") and result.stderr.endswith("\n"), result.stderr)
+        self.assertEqual(self.files(), before)
+        return result.stderr

@@ -3,6 +3,8 @@
 #include "orders/FindBar.h"
 #include "orders/OneLineLabel.h"
 #include "orders/OrdersDatabase.h"
+#include "orders/OrdersWindow.h"
+#include "orders/QuerySource.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -11,6 +13,7 @@
 #include <QTimer>
 
 #include <sqlite3.h>
+#include <utility>
 
 namespace Orders {
 
@@ -30,11 +33,28 @@ Clerk::~Clerk()
 void Clerk::Open(int count)
 {
     MakeDatabase(path_, count);
-    window_ = std::make_unique<OrdersWindow>();
+    Show(std::make_unique<OrdersWindow>(), OpenDatabase(path_));
+}
+
+void Clerk::OpenRows(const char* statements, const std::string& query)
+{
+    OpenRows(statements, query, "sqlite:" + path_.string());
+}
+
+void Clerk::OpenRows(const char* statements, const std::string& query, const std::string& connection)
+{
+    InDatabase(statements);
+    const Source source = OpenQuery(connection, query);
+    Show(std::make_unique<SheetWindow>(QStringLiteral("rows"), QStringLiteral("&Rows"), source.Layout), source);
+}
+
+void Clerk::Show(std::unique_ptr<SheetWindow> window, const Source& source)
+{
+    window_ = std::move(window);
     window_->show();
     window_->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-    window_->Load(OpenDatabase(path_));
+    window_->Load(source);
 }
 
 void Clerk::GoTo(int row, int col)

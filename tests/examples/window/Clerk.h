@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orders/OrdersWindow.h"
+#include "orders/SheetWindow.h"
 #include "qt/SheetWidget.h"
 
 #include <QString>
@@ -21,7 +21,10 @@ protected:
     Clerk();
     ~Clerk() override;
 
-    void Open(int count = 40); ///< The window in front, with so many orders.
+    void Open(int count = 40); ///< The window of orders in front, with so many.
+    /// A window in front with what a query gives of a database that the statements make, on that connection.
+    void OpenRows(const char* statements, const std::string& query);
+    void OpenRows(const char* statements, const std::string& query, const std::string& connection);
     void GoTo(int row, int col); ///< Enters that cell.
     static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     static void Type(const QString& text);
@@ -30,7 +33,7 @@ protected:
     void AnswerNextBox(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     [[nodiscard]] Tessellon::SheetWidget& Sheet() const { return window_->Sheet(); }
-    [[nodiscard]] OrdersWindow& Window() const { return *window_; }
+    [[nodiscard]] SheetWindow& Window() const { return *window_; }
     [[nodiscard]] int Orders() const { return Sheet().Rows() - 1; }
     /// Row, column and text of the cell whose text box has the focus; empty where none has.
     [[nodiscard]] std::string Edited() const;
@@ -42,9 +45,11 @@ protected:
     int Boxes = 0;
 
 private:
+    void Show(std::unique_ptr<SheetWindow> window, const Source& source);
+
     std::filesystem::path folder_;
     std::filesystem::path path_;
-    std::unique_ptr<OrdersWindow> window_;
+    std::unique_ptr<SheetWindow> window_;
 };
 
 } // namespace Orders
