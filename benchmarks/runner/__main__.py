@@ -59,6 +59,8 @@ def measure(wanted):
             except CannotMeasure as reason:
                 print(f"./bench: {name} could not be measured: {reason}", file=sys.stderr)
                 failed = True
+    except KeyboardInterrupt:
+        return 130
     finally:
         bench.close()
     if failed:

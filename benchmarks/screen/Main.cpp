@@ -15,6 +15,8 @@ int Measure(const std::string& what, const std::string& argument)
 {
     if (what == "records")
         Bench::MeasureRecords(argument);
+    else if (what == "cells")
+        Bench::MeasureCells(argument);
     else if (what == "rows")
         Bench::MeasureRows(argument);
     else if (what == "bands")

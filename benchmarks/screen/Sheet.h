@@ -20,6 +20,7 @@ QScrollBar& VerticalBarOf(const Tessellon::SheetWidget& sheet);
 
 // What the program measures.
 void MeasureRecords(const std::string& database);
+void MeasureCells(const std::string& database);
 void MeasureRows(const std::string& database);
 void MeasureBands(const std::string& database);
 void MeasureContent(const std::string& database);

@@ -48,7 +48,7 @@ class Programs(unittest.TestCase):
 
     @unittest.skipIf(os.environ["QT"] == "0", "built without Qt")
     def test_sheets_of_other_shapes_do_all_that_is_measured(self):
-        for words, figure in ((("rows", self.records), "addFirst"),
+        for words, figure in ((("cells", self.records), "read"), (("rows", self.records), "addFirst"),
                               (("bands", self.records), "views"), (("content", self.records), "with"),
                               (("progress", self.records), "with"),
                               (("columns",), "advance"), (("width", "10"), "jump")):

@@ -43,10 +43,10 @@ def window(bench):
     sheet, bare, peers, _ = records(bench)
     yield against(f"Load {bench.many:,} × 10 into a window", sheet["seconds"], bare["seconds"], "bare loop", 1.2)
     for name, peer in peers.items():
-        yield against("    beside a peer filled in bulk", sheet["seconds"], peer["seconds"], name)
+        yield against("… beside a peer filled in bulk", sheet["seconds"], peer["seconds"], name)
     taken = lambda told: [peak - before for peak, before in zip(told["peak"], told["before"])]
     for name, peer in peers.items():
-        yield against("    memory that it takes", taken(sheet), taken(peer), name, show=megabytes)
+        yield against("… memory that it takes", taken(sheet), taken(peer), name, show=megabytes)
 
 
 @work("advance", "from cell to cell by Enter")
@@ -87,6 +87,14 @@ def build(bench):
     yield below("Cell advance there, editors made before", told["advance"], 2 * MILLI)
 
 
+@work("cells-shown", "TextMatrix of the widget")
+def cells_shown(bench):
+    (told,) = alternate(bench.heavy(), [bench.program("bench_sheet", "cells", bench.database(bench.many))],
+                        bench.environment())
+    yield below("TextMatrix of the widget down a column, read", told["read"], 40 * NANO)
+    yield below("TextMatrix of the widget down a column, write", told["write"], 100 * NANO)
+
+
 @work("rows-shown", "Add and Delete in a shown window")
 def rows_shown(bench):
     (told,) = alternate(bench.heavy(), [bench.program("bench_sheet", "rows", bench.database(bench.many))],
@@ -104,7 +112,7 @@ def colours(bench):
     each = [seconds / rows for seconds, rows in zip(told["seconds"], told["rows"])]
     yield below(f"BackColor of both bands of {bench.many:,} rows in a window, a row", each, 60 * NANO)
     views = statistics.median(told["views"])
-    yield Line("    painted by its two calls, of what is in view", f"{number(views)} times", "", None, "at most 2 times",
+    yield Line("… painted by its two calls, of what is in view", f"{number(views)} times", "", None, "at most 2 times",
                views <= 2)
 
 
