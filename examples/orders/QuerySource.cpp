@@ -1,5 +1,7 @@
 #include "orders/QuerySource.h"
 
+#include "platform/Failure.h"
+
 #include <algorithm>
 
 namespace Orders {
@@ -94,6 +96,28 @@ QString DateFormatFor(const std::vector<Roads::Field>& fields)
     return hasDays ? QStringLiteral("yyyy-MM-dd HH:mm:ss") : QStringLiteral("HH:mm:ss");
 }
 
+/// A column as wide as a long text would hide all others. The first record tells which have some: to look at more of
+/// them would be a walk, of which a recordset need give no more than two. What is wrong with it the load will tell.
+void NarrowLongTexts(Columns& columns, Recordset& records)
+{
+    constexpr std::size_t longest = 120;
+    constexpr int width = 420;
+    try {
+        if (records.AtEnd())
+            return;
+        std::int32_t field = 0;
+        for (Column& column : columns.List) {
+            if (column.Total == Totals::Texts && records.FieldValue(field).Characters.size() > longest) {
+                column.Width = faHeader;
+                column.FirstWidth = width;
+            }
+            ++field;
+        }
+    } catch (const Failure&) {
+        return;
+    }
+}
+
 } // namespace
 
 Columns ColumnsOf(const std::vector<Roads::Field>& fields)
@@ -112,6 +136,7 @@ Source OpenQuery(const std::string& connection, const std::string& query)
     source.Connection = std::move(destination.Connection);
     source.Records = std::move(destination.Records);
     source.Layout = ColumnsOf(destination.Fields);
+    NarrowLongTexts(source.Layout, *source.Records);
     source.OpenAgain = [connection, query] { return OpenQuery(connection, query); };
     return source;
 }

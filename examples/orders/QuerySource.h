@@ -8,7 +8,8 @@
 
 namespace Orders {
 
-/// Opens what a query gives on a connection of any kind. Failures are those of Roads::Travel.
+/// Opens what a query gives on a connection of any kind. A column that has a long text in the first record does not
+/// follow its content. Failures are those of Roads::Travel.
 Source OpenQuery(const std::string& connection, const std::string& query);
 
 /// A column for each field: a check box for booleans, a date picker for dates, a text box for all else, numbers on the

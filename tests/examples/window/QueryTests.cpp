@@ -221,6 +221,28 @@ TEST_F(QueryRows, WithoutARecord_ShowTheirHeadings)
     EXPECT_EQ(Orders(), 1);
 }
 
+TEST_F(QueryRows, WithALongTextInTheFirst_LeaveRoomForTheOtherColumns)
+{
+    const std::string query = "SELECT s, l FROM t";
+    OpenRows("CREATE TABLE t(s TEXT, l TEXT); INSERT INTO t VALUES ('a text of some length', hex(zeroblob(10000000)))",
+             query);
+    const Columns columns = OpenQuery("sqlite:" + Database().string(), query).Layout;
+    EXPECT_EQ(columns.At(1)->Width, faContent);
+    EXPECT_EQ(columns.At(2)->Width, faHeader);
+    EXPECT_EQ(columns.At(2)->FirstWidth, 420);
+    EXPECT_EQ(Boxes, 0);
+    EXPECT_EQ(Text(1, 2).size(), 20'000'000U);
+}
+
+TEST_F(QueryRows, LeaveTheDatabaseToOthers_OnceTheyAreLoaded)
+{
+    OpenRows("CREATE TABLE t(s TEXT); INSERT INTO t VALUES ('Ada')", "SELECT * FROM t");
+    InDatabase("UPDATE t SET s = 'Ben'");
+    Press(Qt::Key_F5);
+    EXPECT_EQ(Text(1, 1), "Ben");
+    InDatabase("UPDATE t SET s = 'Cid'");
+}
+
 TEST_F(QueryRows, OfTwoThousandColumns_AreShown_AndOfMoreRefusedInSqlitesWords)
 {
     std::string query = "SELECT 0";
