@@ -18,7 +18,7 @@ namespace Tessellon {
 
 namespace {
 
-constexpr qint64 longActivity = 100; ///< Milliseconds from which on an activity paints while it lasts.
+constexpr qint64 longActivity = 100; ///< Milliseconds from its first painting on, until an activity paints while it lasts.
 
 std::unique_ptr<Metrics> MetricsFor(Conduct conduct, const QWidget& widget)
 {
@@ -33,7 +33,7 @@ SheetFrame::Activity::Activity(SheetFrame& frame)
     : frame_(frame)
 {
     if (frame_.activities_++ == 0)
-        frame_.activitySince_.start();
+        frame_.paintingSince_.invalidate();
 }
 
 SheetFrame::Activity::~Activity()
@@ -159,10 +159,13 @@ void SheetFrame::PaintNow()
         return;
     bars_->FollowIfDue();
     // What an activity leads to is painted in one: an editor that goes from cell to cell is never seen gone.
-    if (activities_ > 0 && activitySince_.elapsed() < longActivity)
-        return;
-    if (activities_ > 0)
-        activitySince_.start();
+    if (activities_ > 0) {
+        if (!paintingSince_.isValid())
+            paintingSince_.start();
+        if (paintingSince_.elapsed() < longActivity)
+            return;
+        paintingSince_.start();
+    }
     view_->repaint(std::exchange(due_, {}));
 }
 

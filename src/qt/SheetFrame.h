@@ -129,7 +129,7 @@ private:
     int activities_ = 0;
     bool isMessageUp_ = false;
     bool isWaiting_ = false; ///< The hourglass is shown.
-    QElapsedTimer activitySince_;
+    QElapsedTimer paintingSince_; ///< An activity that paints nothing never reads the clock.
     QRegion due_;
 };
 
