@@ -8,6 +8,7 @@
 namespace {
 
 std::atomic<long> allocations{0};
+std::atomic<bool> hasMemory{true};
 
 } // namespace
 
@@ -15,7 +16,8 @@ std::atomic<long> allocations{0};
 void* operator new(std::size_t size)
 {
     ++allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
+    void* const memory = hasMemory ? std::malloc(size == 0 ? 1 : size) : nullptr;
+    if (memory != nullptr)
         return memory;
     throw std::bad_alloc();
 }
@@ -35,6 +37,16 @@ namespace Tessellon {
 long AllocationCount()
 {
     return allocations;
+}
+
+NoMemory::NoMemory()
+{
+    hasMemory = false;
+}
+
+NoMemory::~NoMemory()
+{
+    hasMemory = true;
 }
 
 } // namespace Tessellon

@@ -95,6 +95,8 @@ void QtSqlRecordset::Begin()
 {
     if (failure_)
         throw *failure_;
+    if (lacksMemory_)
+        Fail(Common::OutOfMemory, u"Recordset");
     if (!isOpen_)
         Open();
     isOpen_ = true;
@@ -133,7 +135,8 @@ void QtSqlRecordset::Keep(bool isOnRecord)
         for (std::int32_t field = 0; field < static_cast<std::int32_t>(fields_.size()); ++field)
             kept_->Add(Read(field));
     } catch (const std::bad_alloc&) {
-        BreakOff(FailureOf(Common::OutOfMemory, u"Recordset"));
+        lacksMemory_ = true;
+        throw;
     }
 }
 

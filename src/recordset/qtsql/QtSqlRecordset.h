@@ -22,8 +22,8 @@ namespace Tessellon {
 /// when it has come to the end, neither query nor database is needed any more. Until then the database's connection may
 /// have to run no other query (PostgreSQL's). A query that can go back is walked where its driver holds the records, if
 /// that is SQLite's or PostgreSQL's; of other drivers, whose records may change between two walks, they are kept too.
-/// For many records setForwardOnly(true) ahead of exec is the better choice: else SQLite's driver holds some hundred
-/// bytes a value, and PostgreSQL's the server's whole answer.
+/// For many records setForwardOnly(true) ahead of exec is the better choice: else SQLite's driver holds some 60 bytes a
+/// value, and PostgreSQL's the server's whole answer.
 ///
 /// The walks begin at the query's first record. A forward-only query that was moved cannot go back: they begin at the
 /// record on which it stands, and behind its last there is none.
@@ -37,7 +37,7 @@ namespace Tessellon {
 /// (PostgreSQL's infinity) as an empty one.
 ///
 /// A query that was not executed or failed, that gives no records, or breaks off in the middle, is a failure of every
-/// question from then on.
+/// question from then on; so is memory that does not suffice to keep a record (7).
 class QtSqlRecordset final : public Recordset {
 public:
     /// Made by QtSqlConnection::Records.
@@ -65,6 +65,7 @@ private:
     QSqlQuery query_;
     std::shared_ptr<std::vector<ProviderError>> errors_;
     bool isOpen_ = false;
+    bool lacksMemory_ = false; ///< A record was kept in part.
     std::optional<Failure> failure_;
     std::vector<QtSql::FieldShape> fields_;
     std::optional<KeptRecords> kept_;

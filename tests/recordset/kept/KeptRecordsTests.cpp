@@ -240,6 +240,25 @@ TEST(KeptRecords, ManyRecords_CostNoAllocationEach)
     EXPECT_EQ(units, 2U * 10'000U * 61U);
 }
 
+TEST(KeptRecords, ValueThatFindsNoMemory_IsNotAdded)
+{
+    KeptRecords records(1);
+    std::int64_t added = 0;
+    const auto fill = [&] {
+        const NoMemory none;
+        for (; added < 100'000; ++added)
+            records.Add(Value::OfInteger(added));
+    };
+    for (int times = 0; times < 5; ++times) {
+        EXPECT_THROW(fill(), std::bad_alloc);
+        EXPECT_EQ(records.Count(), added);
+        records.Add(Value::OfInteger(added++));
+    }
+    for (std::int64_t i = 0; i < added; ++i, records.MoveNext())
+        ASSERT_EQ(records.FieldValue(0).Integer, i);
+    EXPECT_TRUE(records.AtEnd());
+}
+
 rc::Gen<OwnValue> AnyValue()
 {
     const auto ofNumber = [](Value (*make)(std::int64_t)) {

@@ -109,6 +109,25 @@ TEST_F(QueryErrors, OfADatabaseThatIsClosed_AreNoEndOfTheRecordsOfPostgres)
     }
 }
 
+TEST_F(QueryErrors, OfADatabaseThatIsClosedInTheMiddle_AreNoEnd)
+{
+    for (const char* driver : {"QSQLITE", "QPSQL"})
+        for (const bool isForwardOnly : {true, false}) {
+            Database database(driver);
+            if (driver == std::string("QPSQL"))
+                Reach(database, PostgresServer::Shared());
+            else
+                database.qt.setDatabaseName(":memory:");
+            ASSERT_TRUE(database.qt.isOpen() || database.qt.open());
+            const auto records = connection_->Records(
+                database.Executed("SELECT 1 UNION ALL SELECT 2 UNION ALL SELECT 3", isForwardOnly));
+            records->MoveNext();
+            database.qt.close();
+            EXPECT_EQ(FailureOf([&] { CountOnwards(*records); }).Source, u"Recordset") << driver;
+            EXPECT_EQ(connection_->Errors().size(), 1U);
+        }
+}
+
 TEST_F(QueryErrors, OfADatabaseThatIsGone)
 {
     QSqlQuery query;

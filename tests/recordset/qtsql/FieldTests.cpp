@@ -1,6 +1,7 @@
 #include "recordset/qtsql/InventedDriver.h"
 #include "recordset/qtsql/QtSqlConnection.h"
 #include "recordset/qtsql/QtSqlRecordset.h"
+#include "support/AllocationCount.h"
 #include "support/Recordsets.h"
 
 #include <QDateTime>
@@ -209,6 +210,36 @@ TEST_F(Fields, DriverThatHoldsNothing_IsReadOnce)
         records->MoveFirst();
         EXPECT_EQ(CountOnwards(*records), 3);
     }
+}
+
+TEST_F(Fields, RecordThatFindsNoMemory_IsAFailureFromThenOn)
+{
+    QSqlRecord record;
+    record.append(QSqlField(QStringLiteral("field"), QMetaType(QMetaType::QString)));
+    const QString longText(100'000, QLatin1Char('x'));
+    const auto records =
+        QtSqlConnection().Records(QSqlQuery(new InventedResult(&driver_, record, {{{"short"}, {longText}, {"c"}}})));
+    EXPECT_FALSE(records->AtEnd());
+    const auto step = [&] {
+        const NoMemory none;
+        records->MoveNext();
+    };
+    EXPECT_THROW(step(), std::bad_alloc);
+    EXPECT_EQ(FailureOf([&] { records->AtEnd(); }).Number, 7);
+    EXPECT_EQ(FailureOf([&] { records->MoveFirst(); }).Number, 7);
+}
+
+TEST_F(Fields, Value_CostsNoAllocationBesideQts)
+{
+    std::vector<QVariantList> rows(1'000, QVariantList{QStringLiteral("a text of some length"), 12.5, 7});
+    QSqlRecord record;
+    for (const QMetaType::Type type : {QMetaType::QString, QMetaType::Double, QMetaType::Int})
+        record.append(QSqlField(QStringLiteral("field"), QMetaType(type)));
+    const auto records = QtSqlConnection().Records(QSqlQuery(new InventedResult(&driver_, record, {rows})));
+    EXPECT_FALSE(records->AtEnd());
+    const long before = AllocationCount();
+    EXPECT_EQ(CountOnwards(*records), 1'000);
+    EXPECT_LT(AllocationCount() - before, 20);
 }
 
 } // namespace

@@ -31,8 +31,9 @@ protected:
         EXPECT_EQ(value.Characters, digits) << expression.toStdString();
     }
 
-private:
     using testing::WithParamInterface<bool>::GetParam;
+
+private:
     std::shared_ptr<QtSqlRecordset> records_; ///< Holds the characters.
 };
 
@@ -84,6 +85,20 @@ TEST_P(PostgresValues, Decimals_KeepAllTheirDigits)
     ExpectDecimal("12.50::numeric(10, 2)", u"12.50");
     ExpectDecimal("0::numeric(10, 2)", u"0.00");
     ExpectText("'NaN'::numeric", u"NaN");
+}
+
+TEST_P(PostgresValues, Decimals_KeepAllTheirDigits_WhateverPrecisionTheHostLeft)
+{
+    for (const QSql::NumericalPrecisionPolicy policy :
+         {QSql::LowPrecisionInt32, QSql::LowPrecisionInt64, QSql::LowPrecisionDouble, QSql::HighPrecision}) {
+        QSqlQuery query(database_.qt);
+        query.setForwardOnly(GetParam());
+        query.setNumericalPrecisionPolicy(policy);
+        ASSERT_TRUE(query.exec("SELECT 0.12345678901234567890, 0.25::float8"));
+        const auto records = connection_->Records(std::move(query));
+        EXPECT_EQ(records->FieldValue(0).Characters, u"0.12345678901234567890");
+        EXPECT_EQ(records->FieldValue(1).Real, 0.25);
+    }
 }
 
 TEST_P(PostgresValues, Reals_AreSinglesAndDoubles)
