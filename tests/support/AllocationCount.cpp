@@ -32,6 +32,22 @@ void operator delete(void* memory, std::size_t) noexcept
     std::free(memory);
 }
 
+// A sanitizer's own ones for arrays would not come by here.
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
 namespace Tessellon {
 
 long AllocationCount()
