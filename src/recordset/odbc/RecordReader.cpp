@@ -16,10 +16,11 @@ namespace {
 constexpr std::size_t MostRows = 512;
 constexpr std::size_t MostBytes = std::size_t{1} << 20U;
 constexpr std::size_t Alignment = 8;
-/// Of a text in the block, in units. Longer ones are asked for one by one.
+/// Of a text in the block, in units. What is longer than its place in the block is asked for by itself.
 constexpr std::size_t MostUnits = 255;
-constexpr std::size_t DigitsOfWhole = 32;
-constexpr std::size_t DigitsOfDecimal = 96;
+/// Of whole numbers and moments, and of decimals, in bytes.
+constexpr std::size_t LongestWhole = 32;
+constexpr std::size_t LongestDecimal = 96;
 constexpr std::size_t FirstRoom = 4096;
 
 /// A driver that counts in 32 bits leaves the upper half of a length as it was, which is zero.
@@ -91,9 +92,7 @@ void RecordReader::Describe()
             // what is none of them stays what it is.
             column.CType = SQL_C_CHAR;
             column.Terminator = 1;
-            column.Width = shape.As == Reading::Decimal ? std::max<std::size_t>(DigitsOfDecimal, described.Size + 4)
-                                                        : DigitsOfWhole;
-            column.Width = std::min(column.Width, MostUnits + 1);
+            column.Width = shape.As == Reading::Decimal ? LongestDecimal : LongestWhole;
         }
         columns_.push_back(column);
         fields_.push_back({std::move(described.Name), shape});
@@ -110,24 +109,9 @@ void RecordReader::Bind()
     if (!isBound_)
         return;
 
+    if ((can & SQL_GD_BLOCK) != 0)
+        rows_ = AgreeOnRows();
     const auto aligned = [](std::size_t bytes) { return (bytes + Alignment - 1) / Alignment * Alignment; };
-    const SQLHSTMT handle = statement_->Handle();
-    if ((can & SQL_GD_BLOCK) != 0) {
-        std::size_t bytes = 0;
-        for (const Column& column : columns_)
-            bytes += column.Width + sizeof(SQLLEN);
-        const std::size_t rows = std::clamp(MostBytes / bytes, std::size_t{1}, MostRows);
-        states_.resize(rows);
-        const bool isSet =
-            SQL_SUCCEEDED(SQLSetStmtAttr(handle, SQL_ATTR_ROW_STATUS_PTR, states_.data(), SQL_IS_POINTER)) &&
-            SQL_SUCCEEDED(SQLSetStmtAttr(handle, SQL_ATTR_ROWS_FETCHED_PTR, &rowsRead_, SQL_IS_POINTER)) &&
-            SQLSetStmtAttr(handle, SQL_ATTR_ROW_ARRAY_SIZE, AsPointer(rows), SQL_IS_UINTEGER) == SQL_SUCCESS;
-        if (isSet)
-            rows_ = rows;
-        else
-            SQLSetStmtAttr(handle, SQL_ATTR_ROW_ARRAY_SIZE, AsPointer(1), SQL_IS_UINTEGER);
-    }
-
     std::size_t bytes = 0;
     for (const Column& column : columns_)
         bytes += aligned(column.Width * rows_);
@@ -139,11 +123,27 @@ void RecordReader::Bind()
     for (Column& column : columns_) {
         column.Values = values;
         column.Lengths = lengths;
-        statement_->Check(
-            SQLBindCol(handle, ++number, column.CType, values, static_cast<SQLLEN>(column.Width), lengths));
+        statement_->Check(SQLBindCol(statement_->Handle(), ++number, column.CType, values,
+                                     static_cast<SQLLEN>(column.Width), lengths));
         values += aligned(column.Width * rows_);
         lengths += rows_;
     }
+}
+
+std::size_t RecordReader::AgreeOnRows()
+{
+    std::size_t bytes = 0;
+    for (const Column& column : columns_)
+        bytes += column.Width + sizeof(SQLLEN);
+    const std::size_t rows = std::clamp(MostBytes / bytes, std::size_t{1}, MostRows);
+    states_.resize(rows);
+    const SQLHSTMT handle = statement_->Handle();
+    if (SQL_SUCCEEDED(SQLSetStmtAttr(handle, SQL_ATTR_ROW_STATUS_PTR, states_.data(), SQL_IS_POINTER)) &&
+        SQL_SUCCEEDED(SQLSetStmtAttr(handle, SQL_ATTR_ROWS_FETCHED_PTR, &rowsRead_, SQL_IS_POINTER)) &&
+        SQLSetStmtAttr(handle, SQL_ATTR_ROW_ARRAY_SIZE, AsPointer(rows), SQL_IS_UINTEGER) == SQL_SUCCESS)
+        return rows;
+    SQLSetStmtAttr(handle, SQL_ATTR_ROW_ARRAY_SIZE, AsPointer(1), SQL_IS_UINTEGER);
+    return 1;
 }
 
 bool RecordReader::Read(KeptRecords& records)

@@ -50,6 +50,7 @@ private:
 
     void Describe();
     void Bind();
+    [[nodiscard]] std::size_t AgreeOnRows(); ///< With the driver, on the size of a block.
     [[nodiscard]] Value ValueOf(std::size_t row, std::size_t column);
     [[nodiscard]] Cell Bound(std::size_t row, std::size_t column);
     [[nodiscard]] Cell Asked(std::size_t column, SQLLEN length);

@@ -83,7 +83,8 @@ SQLRETURN __wrap_SQLGetData(SQLHSTMT statement, SQLUSMALLINT column, SQLSMALLINT
 {
     ++calls.Asked;
     const SQLRETURN code = __real_SQLGetData(statement, column, type, value, size, length);
-    if (calls.TellsNoLengths && code == SQL_SUCCESS_WITH_INFO)
+    // Of bytes the driver has to tell where they end.
+    if (calls.TellsNoLengths && *length >= 0 && (code == SQL_SUCCESS_WITH_INFO || type != SQL_C_BINARY))
         *length = SQL_NO_TOTAL;
     if (calls.CountsIn32Bits)
         *length = In32Bits(*length);

@@ -10,7 +10,7 @@ struct DriverCalls {
     bool GivesNoBlocks = false; ///< Values can be asked for in a block of one record only.
     bool GivesEachOnce = false; ///< Values that are bound cannot be asked for again.
     bool CountsIn32Bits = false; ///< Lengths are written as numbers of 32 bits.
-    bool TellsNoLengths = false; ///< Lengths of what is cut are not told.
+    bool TellsNoLengths = false; ///< Lengths of what is cut, or asked for by itself, are not told.
     long FailsAtFetch = 0; ///< That fetch fails without a reason. 0: none.
 };
 
