@@ -1,12 +1,15 @@
 """The verdicts and figures of the table that ./bench prints."""
 
 import pathlib
+import re
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "benchmarks" / "runner"))
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "benchmarks" / "runner"))
 
 import table  # noqa: E402
+from rows import WORKS, calls, load, screen, starts  # noqa: E402, F401  Each theme registers its rows.
 
 
 class Figures(unittest.TestCase):
@@ -46,6 +49,15 @@ class Verdicts(unittest.TestCase):
         line = table.against("load", [3.0], [1.0], "peer", 2)
         self.assertEqual(table.shown(line, markdown=True),
                          "| load | 3.00 s | 1.00 s peer | 3.00 | ratio at most 2.00 | falls short |")
+
+
+class Documents(unittest.TestCase):
+    def test_every_row_is_explained_and_no_other(self):
+        text = (ROOT / "docs" / "performance.md").read_text()
+        section = text[text.index("## The rows"):text.index("## Where the speed")]
+        first_cells = re.findall(r"^\| (`[^|]*) \|", section, re.M)
+        named = {name for cell in first_cells for name in re.findall(r"`([^`]+)`", cell)}
+        self.assertEqual(named, set(WORKS))
 
 
 if __name__ == "__main__":
