@@ -2,9 +2,9 @@
 
 #include "recordset/common/FailureNumbers.h"
 #include "recordset/common/Unicode.h"
+#include "recordset/odbc/ConnectionText.h"
 #include "recordset/odbc/Diagnostics.h"
 #include "recordset/odbc/OdbcRecordset.h"
-#include "recordset/odbc/Secrets.h"
 #include "recordset/odbc/Wide.h"
 
 #include <algorithm>
@@ -52,17 +52,23 @@ void OdbcSession::Open(std::u16string_view connectionText, std::int32_t loginSec
 
 void OdbcSession::OpenByLetters(std::u16string_view connectionText, std::int32_t loginSeconds)
 {
+    // A driver without wide functions would be given other letters than these, and one of files make a file of that
+    // name. It can be asked ahead by a connection without any; one of servers has none.
     std::optional<Failure> failure;
-    try {
-        Attempt(connectionText, loginSeconds);
-        isWide_ = AskWhetherWide();
-        if (isWide_)
-            return;
-    } catch (const Failure& wide) {
-        failure = wide;
+    const std::optional<bool> isWide = AskDriverAlone(connectionText, loginSeconds);
+    if (isWide.value_or(true)) {
+        try {
+            Attempt(connectionText, loginSeconds);
+            isWide_ = AskWhetherWide();
+            if (isWide_)
+                return;
+        } catch (const Failure& wide) {
+            if (isWide)
+                throw;
+            failure = wide;
+        }
+        Close();
     }
-    // A driver without wide functions was given other letters than these: a file of another name, say.
-    Close();
     isWide_ = false;
     const std::vector<ProviderError> errors = errors_;
     try {
@@ -74,6 +80,22 @@ void OdbcSession::OpenByLetters(std::u16string_view connectionText, std::int32_t
         errors_ = errors;
         throw *failure;
     }
+}
+
+std::optional<bool> OdbcSession::AskDriverAlone(std::u16string_view connectionText, std::int32_t loginSeconds)
+{
+    const std::u16string driver = Odbc::DriverOf(connectionText);
+    if (driver.empty() || !IsAscii(driver))
+        return std::nullopt;
+    try {
+        Attempt(u"Driver=" + driver, loginSeconds);
+    } catch (const Failure&) {
+        errors_.clear();
+        return std::nullopt;
+    }
+    const bool isWide = AskWhetherWide();
+    Close();
+    return isWide;
 }
 
 void OdbcSession::Attempt(std::u16string_view connectionText, std::int32_t loginSeconds)

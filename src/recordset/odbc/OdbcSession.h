@@ -4,6 +4,7 @@
 #include "platform/Recordset.h"
 
 #include <cstdint>
+#include <optional>
 #include <sql.h>
 #include <string>
 #include <string_view>
@@ -47,6 +48,8 @@ public:
 
 private:
     void OpenByLetters(std::u16string_view connectionText, std::int32_t loginSeconds);
+    /// None where the text names no driver, or the driver opens nothing without more.
+    [[nodiscard]] std::optional<bool> AskDriverAlone(std::u16string_view connectionText, std::int32_t loginSeconds);
     void Attempt(std::u16string_view connectionText, std::int32_t loginSeconds);
     void Close() noexcept;
     [[nodiscard]] bool AskWhetherWide() const;

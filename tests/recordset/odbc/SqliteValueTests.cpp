@@ -90,6 +90,8 @@ TEST_F(SqliteOdbcRecords, QueriesFieldsAndFilesMayHaveAnyLetters)
         OdbcConnection::Open(SqliteText({}, name))->Query(u"SELECT a AS \"ä 😀\" FROM größe WHERE a = 'Ж😀'");
     EXPECT_EQ(records->FieldName(0), u"ä 😀");
     EXPECT_EQ(TellAll(*records), std::vector<std::string>{"text Ж😀"});
+    const std::filesystem::directory_iterator files(Path(".").parent_path());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "a file of another name was made";
 }
 
 TEST_F(SqliteOdbcRecords, OfTwoThousandFields_AreRead_AndOneMoreIsItsOwnFailure)

@@ -1,9 +1,10 @@
-#include "recordset/odbc/Secrets.h"
+#include "recordset/odbc/ConnectionText.h"
 
 #include "recordset/common/Words.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace Tessellon::Odbc {
 
@@ -13,14 +14,26 @@ namespace {
 
 constexpr std::u16string_view Asterisks = u"***";
 
-bool IsSecret(std::u16string_view key)
+/// What stands between two semicolons.
+struct Attribute {
+    std::u16string Key; ///< In lower case.
+    std::u16string Value;
+    std::u16string_view Written; ///< The value with its braces.
+};
+
+std::u16string LowerCase(std::u16string_view text)
 {
     std::u16string letters;
-    for (const char16_t character : key)
+    for (const char16_t character : text)
         letters += static_cast<char16_t>(character >= u'A' && character <= u'Z' ? character - u'A' + u'a' : character);
+    return letters;
+}
+
+bool IsSecret(std::u16string_view key)
+{
     constexpr std::u16string_view signs[] = {u"pwd", u"passw", u"passphrase", u"secret", u"token"};
     return std::any_of(std::begin(signs), std::end(signs),
-                       [&](std::u16string_view sign) { return letters.find(sign) != std::u16string::npos; });
+                       [&](std::u16string_view sign) { return key.find(sign) != std::u16string_view::npos; });
 }
 
 /// Takes the value at the text's start off it. In braces it may hold any character, a closing brace doubled.
@@ -42,28 +55,44 @@ std::u16string TakeValue(std::u16string_view& text)
     return value;
 }
 
+std::vector<Attribute> AttributesOf(std::u16string_view text)
+{
+    std::vector<Attribute> attributes;
+    while (!text.empty()) {
+        const std::size_t sign = std::min(text.find_first_of(u"=;"), text.size());
+        Attribute attribute;
+        attribute.Key = LowerCase(WithoutBlanks(text.substr(0, sign)));
+        text.remove_prefix(sign);
+        if (text.starts_with(u'=')) {
+            text.remove_prefix(1);
+            const std::u16string_view before = text;
+            attribute.Value = TakeValue(text);
+            attribute.Written = WithoutBlanks(before.substr(0, before.size() - text.size()));
+            attributes.push_back(std::move(attribute));
+        }
+        text.remove_prefix(std::min<std::size_t>(1, text.size()));
+    }
+    return attributes;
+}
+
 } // namespace
+
+std::u16string DriverOf(std::u16string_view connectionText)
+{
+    for (const Attribute& attribute : AttributesOf(connectionText))
+        if (attribute.Key == u"driver")
+            return std::u16string(attribute.Written);
+    return {};
+}
 
 std::vector<std::u16string> SecretsOf(std::u16string_view connectionText)
 {
     std::vector<std::u16string> secrets;
-    std::u16string_view text = connectionText;
-    while (!text.empty()) {
-        const std::size_t sign = text.find_first_of(u"=;");
-        if (sign == std::u16string_view::npos)
-            break;
-        const std::u16string_view key = text.substr(0, sign);
-        const bool hasValue = text[sign] == u'=';
-        text.remove_prefix(sign + 1);
-        if (!hasValue)
+    for (const Attribute& attribute : AttributesOf(connectionText)) {
+        if (attribute.Value.empty() || !IsSecret(attribute.Key))
             continue;
-        const std::u16string_view before = text;
-        const std::u16string value = TakeValue(text);
-        if (!value.empty() && IsSecret(key)) {
-            secrets.push_back(value);
-            secrets.emplace_back(WithoutBlanks(before.substr(0, before.size() - text.size())));
-        }
-        text.remove_prefix(std::min<std::size_t>(1, text.size()));
+        secrets.push_back(attribute.Value);
+        secrets.emplace_back(attribute.Written);
     }
     return secrets;
 }

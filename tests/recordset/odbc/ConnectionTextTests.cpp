@@ -1,4 +1,4 @@
-#include "recordset/odbc/Secrets.h"
+#include "recordset/odbc/ConnectionText.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +12,15 @@ std::u16string Shown(std::u16string_view connectionText, std::u16string words)
     errors.front().Description = std::move(words);
     Mask(errors, SecretsOf(connectionText));
     return errors.front().Description;
+}
+
+TEST(DriverOfAText, AreNamedByTheirKey)
+{
+    EXPECT_EQ(DriverOf(u"Driver=SQLite3;Database=a"), u"SQLite3");
+    EXPECT_EQ(DriverOf(u"UID={driver=no};DRIVER = {A; b} ;x"), u"{A; b}");
+    EXPECT_EQ(DriverOf(u"DSN=orders"), u"");
+    EXPECT_EQ(DriverOf(u"driver"), u"");
+    EXPECT_EQ(DriverOf(u""), u"");
 }
 
 TEST(Secrets, AreTheValuesOfPasswords_InWhateverLettersAndWithBlanks)

@@ -8,6 +8,9 @@
 
 namespace Tessellon::Odbc {
 
+/// The driver that a connection text names, as it is written there; none with a DSN.
+std::u16string DriverOf(std::u16string_view connectionText);
+
 /// The values of a connection text, as "DSN=orders;UID=ada;PWD={a;b}", that nobody is to read: of PWD, Password and
 /// every other key that tells of a password, a secret, a token or a passphrase.
 std::vector<std::u16string> SecretsOf(std::u16string_view connectionText);
