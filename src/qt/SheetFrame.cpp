@@ -18,7 +18,8 @@ namespace Tessellon {
 
 namespace {
 
-constexpr qint64 longActivity = 100; ///< Milliseconds from its first painting on, until an activity paints while it lasts.
+constexpr qint64 longActivity =
+    100; ///< Milliseconds from its first painting on, until an activity paints while it lasts.
 
 std::unique_ptr<Metrics> MetricsFor(Conduct conduct, const QWidget& widget)
 {
