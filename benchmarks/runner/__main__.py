@@ -10,7 +10,7 @@ import machine
 import table
 from bench import Bench
 from programs import CannotMeasure
-from rows import WORKS, load, calls, screen, starts  # noqa: F401  Each theme registers its rows.
+from rows import WORKS, load, query, calls, screen, starts  # noqa: F401  Each theme registers its rows.
 
 QUICK = """The quick one: 100,000 rows stand for 1,000,000 and one or two runs for three or five, so the figures are rough and
 decide nothing. Left out: loads of more than 100,000 rows, and wxGrid."""

@@ -40,6 +40,14 @@ class Programs(unittest.TestCase):
         self.assertGreater(walk["used"], 11 * ROWS)
 
     @unittest.skipIf(os.environ["QT"] == "0", "built without Qt")
+    def test_sheet_and_loop_find_the_same_in_a_query_of_qts(self):
+        wanted = self.told("bench_load", "sheet", self.records)["checksum"]
+        for words in (("sheet", "forward"), ("sheet", "back"), ("bare", "forward"), ("bare", "back")):
+            with self.subTest(words):
+                told = self.told("bench_query_load", *words, self.records)
+                self.assertEqual((told["rows"], told["checksum"]), (ROWS, wanted))
+
+    @unittest.skipIf(os.environ["QT"] == "0", "built without Qt")
     def test_sheet_in_a_window_does_all_that_is_measured(self):
         told = self.told("bench_sheet", "records", self.records)
         self.assertEqual(told["rows"], ROWS)

@@ -9,7 +9,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "benchmarks" / "runner"))
 
 import table  # noqa: E402
-from rows import WORKS, calls, load, screen, starts  # noqa: E402, F401  Each theme registers its rows.
+from rows import WORKS, calls, load, query, screen, starts  # noqa: E402, F401  Each theme registers its rows.
 
 
 class Figures(unittest.TestCase):
