@@ -42,6 +42,11 @@ public:
             Write(token, twelveHours, inner);
     }
     void Write(const DateToken& token, bool twelveHours, bool inner);
+    void Finish()
+    {
+        out_.append(near_.data(), size_);
+        size_ = 0;
+    }
 
     void WriteGeneral()
     {
@@ -50,7 +55,7 @@ public:
         if (date)
             Write(locale_.ShortDate, true);
         if (date && time)
-            out_.push_back(u' ');
+            Put(u' ');
         if (time || !date)
             Write(locale_.LongTime, true);
     }
@@ -59,17 +64,31 @@ private:
     void WriteWhole(const DateToken& token, std::u16string_view format, bool inner)
     {
         if (inner)
-            out_.append(token.Text);
+            Put(token.Text);
         else
             Write(format, true);
     }
+    void Put(char16_t unit)
+    {
+        if (size_ == near_.size())
+            Finish();
+        near_[size_++] = unit;
+    }
+    void Put(std::u16string_view text)
+    {
+        for (const char16_t unit : text)
+            Put(unit);
+    }
+    void PutFigure(int figure) { Put(static_cast<char16_t>(u'0' + figure % 10)); }
     void WriteNumber(int number, int figures)
     {
-        std::array<char16_t, 4> text;
-        auto start = text.end();
-        for (; number > 0 || text.end() - start < figures; number /= 10)
-            *--start = static_cast<char16_t>(u'0' + number % 10);
-        out_.append(start, text.end());
+        if (number >= 1000 || figures > 3)
+            PutFigure(number / 1000);
+        if (number >= 100 || figures > 2)
+            PutFigure(number / 100);
+        if (number >= 10 || figures > 1)
+            PutFigure(number / 10);
+        PutFigure(number);
     }
     void WriteHour(bool twelveHours, int figures)
     {
@@ -93,33 +112,35 @@ private:
     std::u16string& out_;
     const Locale& locale_;
     const CivilTime fields_;
+    std::array<char16_t, 64> near_; ///< What goes to the end of the text together.
+    std::size_t size_ = 0;
 };
 
 void DateWriter::Write(const DateToken& token, bool twelveHours, bool inner)
 {
     const bool morning = fields_.Hour < 12;
     switch (token.Kind) {
-    case DateSign::Literal: out_.append(token.Text); break;
-    case DateSign::DateSeparator: out_.push_back(locale_.DateSeparator); break;
-    case DateSign::TimeSeparator: out_.push_back(locale_.TimeSeparator); break;
+    case DateSign::Literal: Put(token.Text); break;
+    case DateSign::DateSeparator: Put(locale_.DateSeparator); break;
+    case DateSign::TimeSeparator: Put(locale_.TimeSeparator); break;
     case DateSign::General:
         if (inner)
-            out_.append(token.Text);
+            Put(token.Text);
         else
             WriteGeneral();
         break;
     case DateSign::Day: WriteNumber(fields_.Day, 1); break;
     case DateSign::DayTwo: WriteNumber(fields_.Day, 2); break;
-    case DateSign::DayNameShort: out_.append(OfWeekday(locale_.DayAbbreviations)); break;
-    case DateSign::DayName: out_.append(OfWeekday(locale_.DayNames)); break;
+    case DateSign::DayNameShort: Put(OfWeekday(locale_.DayAbbreviations)); break;
+    case DateSign::DayName: Put(OfWeekday(locale_.DayNames)); break;
     case DateSign::ShortDate: WriteWhole(token, locale_.ShortDate, inner); break;
     case DateSign::LongDate: WriteWhole(token, locale_.LongDate, inner); break;
     case DateSign::Weekday: WriteNumber(WeekdayOf(fields_), 1); break;
     case DateSign::Week: WriteNumber(Week(), 1); break;
     case DateSign::Month: WriteNumber(fields_.Month, 1); break;
     case DateSign::MonthTwo: WriteNumber(fields_.Month, 2); break;
-    case DateSign::MonthNameShort: out_.append(OfMonth(locale_.MonthAbbreviations)); break;
-    case DateSign::MonthName: out_.append(OfMonth(locale_.MonthNames)); break;
+    case DateSign::MonthNameShort: Put(OfMonth(locale_.MonthAbbreviations)); break;
+    case DateSign::MonthName: Put(OfMonth(locale_.MonthNames)); break;
     case DateSign::Quarter: WriteNumber((fields_.Month + 2) / 3, 1); break;
     case DateSign::DayOfYear: WriteNumber(DayOfYear(fields_), 1); break;
     case DateSign::YearTwo: WriteNumber(fields_.Year % 100, 2); break;
@@ -131,11 +152,11 @@ void DateWriter::Write(const DateToken& token, bool twelveHours, bool inner)
     case DateSign::Second: WriteNumber(fields_.Second, 1); break;
     case DateSign::SecondTwo: WriteNumber(fields_.Second, 2); break;
     case DateSign::LongTime: WriteWhole(token, locale_.LongTime, inner); break;
-    case DateSign::HalfUpper: out_.append(morning ? u"AM" : u"PM"); break;
-    case DateSign::HalfLower: out_.append(morning ? u"am" : u"pm"); break;
-    case DateSign::HalfUpperShort: out_.push_back(morning ? u'A' : u'P'); break;
-    case DateSign::HalfLowerShort: out_.push_back(morning ? u'a' : u'p'); break;
-    case DateSign::HalfOfLocale: out_.append(morning ? locale_.Am : locale_.Pm); break;
+    case DateSign::HalfUpper: Put(morning ? u"AM" : u"PM"); break;
+    case DateSign::HalfLower: Put(morning ? u"am" : u"pm"); break;
+    case DateSign::HalfUpperShort: Put(morning ? u'A' : u'P'); break;
+    case DateSign::HalfLowerShort: Put(morning ? u'a' : u'p'); break;
+    case DateSign::HalfOfLocale: Put(morning ? locale_.Am : locale_.Pm); break;
     }
 }
 
@@ -156,6 +177,7 @@ void DatePattern::Append(std::u16string& out, double serial, const Locale& local
     DateWriter writer(out, locale, FieldsOf(serial));
     for (const Piece& piece : pieces_)
         writer.Write({piece.Kind, Format().substr(piece.Begin, piece.Size)}, twelveHours_, false);
+    writer.Finish();
 }
 
 void AppendNamedDate(std::u16string& out, double serial, NamedFormat format, const Locale& locale)
@@ -170,11 +192,14 @@ void AppendNamedDate(std::u16string& out, double serial, NamedFormat format, con
     case NamedFormat::ShortTime: writer.Write(locale.ShortTime, true); break;
     default: writer.WriteGeneral(); break;
     }
+    writer.Finish();
 }
 
 void AppendGeneralDate(std::u16string& out, double serial, const Locale& locale)
 {
-    DateWriter(out, locale, FieldsOf(serial)).WriteGeneral();
+    DateWriter writer(out, locale, FieldsOf(serial));
+    writer.WriteGeneral();
+    writer.Finish();
 }
 
 } // namespace Tessellon

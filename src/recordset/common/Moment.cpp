@@ -31,15 +31,18 @@ public:
     }
 
     /// A number of just so many digits, or -1.
-    int Number(int digits)
+    int Number(std::size_t digits)
     {
+        if (text_.size() < digits)
+            return -1;
         int number = 0;
-        for (int i = 0; i < digits; ++i) {
-            if (!SeesDigit())
+        for (std::size_t i = 0; i < digits; ++i) {
+            const int digit = text_[i] - u'0';
+            if (digit < 0 || digit > 9)
                 return -1;
-            number = number * 10 + (text_.front() - u'0');
-            text_.remove_prefix(1);
+            number = number * 10 + digit;
         }
+        text_.remove_prefix(digits);
         return number;
     }
 
