@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -18,17 +19,23 @@ constexpr char16_t firstPrintable = u' ';
 constexpr char16_t softHyphen = u'\u00AD';
 
 /// Small letters, whose pairs may become one sign with a third.
-bool MayBeJoined(char16_t unit)
+constexpr bool MayBeJoined(char16_t unit)
 {
     return unit == u'f' || unit == u'i' || unit == u'j' || unit == u'l' || unit == u't';
 }
 
-bool IsPlain(char16_t unit)
-{
+constexpr auto plainUnits = [] {
     constexpr char16_t firstControl = 0x7F;
     constexpr char16_t lastControl = 0x9F;
-    return unit >= firstPrintable && unit < units && !(unit >= firstControl && unit <= lastControl) &&
-           unit != softHyphen && !MayBeJoined(unit);
+    std::array<bool, units> plain{};
+    for (char16_t unit = firstPrintable; unit < units; ++unit)
+        plain[unit] = !(unit >= firstControl && unit <= lastControl) && unit != softHyphen && !MayBeJoined(unit);
+    return plain;
+}();
+
+bool IsPlain(char16_t unit)
+{
+    return unit < units && plainUnits[unit];
 }
 
 } // namespace

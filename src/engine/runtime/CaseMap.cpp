@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <span>
 
@@ -57,8 +58,16 @@ void UpperCaseTo(std::u16string& out, std::u16string_view text)
 {
     const std::size_t start = out.size();
     out.append(text);
-    std::transform(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(),
-                   out.begin() + static_cast<std::ptrdiff_t>(start), [](char16_t unit) { return UpperCase(unit); });
+    char16_t* const units = out.data() + start;
+    // Of ASCII alone, without a question for each unit.
+    std::uint32_t all = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char16_t unit = units[i];
+        all |= unit;
+        units[i] = static_cast<char16_t>(unit - (static_cast<char16_t>(unit - u'a') < 26 ? 0x20 : 0));
+    }
+    if (all >= 0x80)
+        std::transform(text.begin(), text.end(), units, [](char16_t unit) { return UpperCase(unit); });
 }
 
 bool EqualIgnoringCase(std::u16string_view left, std::u16string_view right)

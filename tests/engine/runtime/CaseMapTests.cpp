@@ -84,6 +84,18 @@ TEST(CaseMap, TextsAreCompared_UnitByUnitInUpperCase)
     EXPECT_FALSE(StartsWithIgnoringCase(u"mär", u"März"));
 }
 
+RC_GTEST_PROP(CaseMap, Texts_AreRaisedUnitByUnit, ())
+{
+    const bool isAscii = *rc::gen::arbitrary<bool>();
+    const auto text = *rc::gen::container<std::u16string>(rc::gen::inRange<char16_t>(0, isAscii ? 0x80 : 0x250));
+    std::u16string out = u"ahead ";
+    UpperCaseTo(out, text);
+    std::u16string expected = u"ahead ";
+    for (const char16_t unit : text)
+        expected.push_back(UpperCase(unit));
+    RC_ASSERT(out == expected);
+}
+
 RC_GTEST_PROP(CaseMap, UpperCaseTwice_IsUpperCase, (std::uint16_t number))
 {
     const auto unit = static_cast<char16_t>(number);
