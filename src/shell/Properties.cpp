@@ -58,7 +58,7 @@ std::u16string TessellonSheet::TextMatrix(std::int32_t row, std::int32_t col)
     return Entry(*this).Run([&] {
         return ArmedResult(u"TextMatrixProperty", std::u16string(), [&](std::u16string& result) {
             if (row > 0 && col > 0 && row < RowCount && col < ColCount)
-                result = MSFlexGrid1->TextMatrix(row, col);
+                result = std::u16string(MSFlexGrid1->TextMatrix(row, col));
         });
     });
 }

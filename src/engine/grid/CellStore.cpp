@@ -37,7 +37,7 @@ std::size_t CellStore::FindAfresh(std::int32_t row) const
 {
     if (hit_ + 1 < firsts_.size() && Holds(hit_ + 1, row))
         return ++hit_;
-    auto guess = std::min(static_cast<std::size_t>(row * chunksPerRow_), firsts_.size() - 1);
+    auto guess = std::min(static_cast<std::size_t>(static_cast<std::int64_t>(row * chunksPerRow_)), firsts_.size() - 1);
     guess -= static_cast<std::size_t>(firsts_[guess] > row);
     if (Holds(guess, row))
         return hit_ = guess;
