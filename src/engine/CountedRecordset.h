@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace Tessellon {
 
@@ -26,7 +27,7 @@ public:
     void MoveFirst() override;
     void MoveNext() override;
     std::int32_t FieldCount() override { return records_->FieldCount(); }
-    std::int32_t FieldType(std::int32_t field) override { return records_->FieldType(field); }
+    std::int32_t FieldType(std::int32_t field) override;
     Value FieldValue(std::int32_t field) override { return records_->FieldValue(field); }
 
 private:
@@ -41,6 +42,7 @@ private:
     Walk walk_ = Walk::Counting;
     std::int32_t counted_ = 0;
     std::int32_t steps_ = 0; ///< In this walk.
+    std::vector<std::int32_t> types_; ///< Of the first fields, as far as they were asked for.
 };
 
 } // namespace Tessellon

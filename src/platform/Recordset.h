@@ -38,7 +38,7 @@ public:
     virtual void MoveNext() = 0; ///< Behind the last: failure 3021.
 
     virtual std::int32_t FieldCount() = 0;
-    /// The field's type, a number of DataTypeEnum. Fields count from 0.
+    /// The field's type, a number of DataTypeEnum, the same in all records. Fields count from 0.
     virtual std::int32_t FieldType(std::int32_t field) = 0;
     /// The field's value in the current record; its text stays valid until the next call on the recordset.
     virtual Value FieldValue(std::int32_t field) = 0;

@@ -38,7 +38,11 @@ protected:
                 test_.AtEachStep();
         }
         std::int32_t FieldCount() override { return 1; }
-        std::int32_t FieldType(std::int32_t) override { return adInteger; }
+        std::int32_t FieldType(std::int32_t) override
+        {
+            ++test_.TypesAsked;
+            return adInteger;
+        }
         Value FieldValue(std::int32_t) override { return Value::OfInteger(at_); }
 
     private:
@@ -64,6 +68,7 @@ protected:
 
     std::function<void()> AtEachStep;
     std::vector<Told> Progress;
+    int TypesAsked = 0;
     milliseconds EachTelling{0}; ///< What the host does with it takes so long.
 
 private:
@@ -148,6 +153,13 @@ TEST_F(LoadWithProgress, AsksThePlatformTheSameAsWithoutIt)
     EXPECT_FALSE(Progress.empty());
     EXPECT_EQ(with, without);
     EXPECT_GT(without.first.size(), 1'000U);
+}
+
+TEST_F(LoadWithProgress, AsksTheTypeOfAFieldOnce)
+{
+    LoadCounted(1'000, microseconds(0));
+    EXPECT_EQ(TypesAsked, 1);
+    EXPECT_EQ(Sheet->TextMatrix(1'000, 1), u"999");
 }
 
 TEST_F(LoadWithProgress, ThatFailsInTheCount_GoesOnWithWhatWasCounted)
