@@ -19,7 +19,7 @@ void DeclareColumns(SheetWidget& sheet, const Columns& columns)
     int col = 0;
     for (const Column& column : columns.List) {
         ++col;
-        const bool isMask = column.Kind == fcMaskedEditBox;
+        const bool isMask = column.Kind == fcMaskedEditBox && !column.Setting.isEmpty();
         sheet.CreateColumnDataType(col, column.Name, column.Kind, column.Setting, column.IsHidden, column.Alignment,
                                    column.Length, column.Width, isMask);
         if (column.FirstWidth > 0)

@@ -54,8 +54,8 @@ QString Heading(const std::u16string& name)
     return name.size() > static_cast<std::size_t>(most) ? heading + u'…' : heading;
 }
 
-/// A mask has a fixed number of places and none for a sign, and a format rounds what is typed to its decimals: numbers
-/// of any kind go into a text box.
+/// A mask has a fixed number of places and none for a sign, and a format rounds what is typed to its decimals: the
+/// masked box of a number has neither, and takes numbers of any kind as they are typed.
 Column ColumnOf(const Roads::Field& field)
 {
     Column column;
@@ -72,6 +72,7 @@ Column ColumnOf(const Roads::Field& field)
         column.Total = Totals::Dates;
         break;
     case Class::Number:
+        column.Kind = fcMaskedEditBox;
         column.Alignment = fcRight;
         column.Total = Totals::Numbers;
         column.Decimals = AnyDecimals;

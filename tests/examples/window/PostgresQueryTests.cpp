@@ -71,7 +71,7 @@ TEST_P(PostgresRows, AreShownByType)
     EXPECT_EQ(Sheet().ColumnHeader(3), QStringLiteral("n"));
     EXPECT_EQ(KindOf(1, query), Tessellon::fcCheckBox);
     EXPECT_EQ(KindOf(2, query), Tessellon::fcDatePicker);
-    EXPECT_EQ(KindOf(3, query), Tessellon::fcTextBox);
+    EXPECT_EQ(KindOf(3, query), Tessellon::fcMaskedEditBox);
 }
 
 TEST_P(PostgresRows, AreEdited_AndWrittenNowhere)

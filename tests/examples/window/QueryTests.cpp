@@ -56,10 +56,13 @@ TEST(ColumnsOfFields, HaveTheEditorOfTheirType)
     const auto kind = [&](int col) { return columns.At(col)->Kind; };
     EXPECT_EQ(kind(1), fcCheckBox);
     EXPECT_EQ(kind(2), fcDatePicker);
-    for (int col = 3; col <= 9; ++col)
-        EXPECT_EQ(kind(col), fcTextBox) << col;
-    for (int col = 3; col <= 5; ++col)
+    for (int col = 3; col <= 5; ++col) {
+        EXPECT_EQ(kind(col), fcMaskedEditBox) << col;
+        EXPECT_EQ(columns.At(col)->Setting, QString()) << "without a mask, which would have no place for a sign";
         EXPECT_EQ(columns.At(col)->Alignment, fcRight) << col;
+    }
+    for (int col = 6; col <= 9; ++col)
+        EXPECT_EQ(kind(col), fcTextBox) << col;
     EXPECT_EQ(columns.At(6)->Alignment, fcLeft);
     EXPECT_EQ(columns.At(10), nullptr);
     EXPECT_EQ(columns.Key, 0);
