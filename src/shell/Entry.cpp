@@ -8,10 +8,10 @@ namespace Tessellon {
 
 SheetPointer TessellonSheet::Create(std::shared_ptr<Platform> platform)
 {
-    const std::shared_ptr<TessellonSheet> sheet(new TessellonSheet(std::move(platform)));
-    sheet->self_ = sheet;
-    SheetPointer pointer(sheet.get());
-    sheet->platform_->Listen(sheet.get());
+    auto* const sheet = new TessellonSheet(std::move(platform));
+    sheet->self_.reset(sheet);
+    SheetPointer pointer(sheet);
+    sheet->platform_->Listen(sheet);
     Entry(*sheet).Run([&] { sheet->UserControl_Initialize(); });
     return pointer;
 }
@@ -41,7 +41,7 @@ void EndSheet::operator()(TessellonSheet* sheet) const noexcept
 
 void TessellonSheet::End()
 {
-    const std::shared_ptr<TessellonSheet> alive = std::move(self_);
+    std::unique_ptr<TessellonSheet> alive = std::move(self_);
     ended_ = true;
     try {
         UserControl_Terminate();
@@ -50,6 +50,9 @@ void TessellonSheet::End()
         TakeCaughtFailure();
     }
     platform_->Listen(nullptr);
+    // Frames of the sheet are on the stack: the outermost lets go of it.
+    if (depth_ > 0)
+        self_ = std::move(alive);
 }
 
 void TessellonSheet::LeaveIfEnded() const

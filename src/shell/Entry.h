@@ -15,7 +15,6 @@ class TessellonSheet::Entry {
 public:
     explicit Entry(TessellonSheet& sheet)
         : sheet_(sheet)
-        , alive_(sheet.depth_ == 0 ? sheet.self_ : nullptr)
         , calledByHost_(std::exchange(sheet.inHost_, false))
     {
         if (sheet_.depth_++ == 0) {
@@ -26,8 +25,11 @@ public:
     ~Entry()
     {
         sheet_.inHost_ = calledByHost_;
-        if (--sheet_.depth_ == 0)
-            sheet_.stack_ = Stack::Enough;
+        if (--sheet_.depth_ > 0)
+            return;
+        sheet_.stack_ = Stack::Enough;
+        if (sheet_.ended_)
+            const std::unique_ptr<TessellonSheet> last = std::move(sheet_.self_);
     }
     Entry(const Entry&) = delete;
     Entry& operator=(const Entry&) = delete;
@@ -51,7 +53,6 @@ public:
 
 private:
     TessellonSheet& sheet_;
-    const std::shared_ptr<TessellonSheet> alive_; ///< Of the outermost only: the others end within it.
     const bool calledByHost_;
 };
 

@@ -383,7 +383,7 @@ private:
 
     // What the sheet stands on. Declared last, so that the names of the controls read as in the handlers.
     std::shared_ptr<Platform> platform_;
-    std::shared_ptr<TessellonSheet> self_;
+    std::unique_ptr<TessellonSheet> self_; ///< Not shared, which would cost each call what reading a cell does.
     bool ended_ = false;
     bool inHost_ = true; ///< The sheet's innermost frame has called the host, or the sheet has no frame at all.
     int depth_ = 0;
