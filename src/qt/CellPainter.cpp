@@ -61,10 +61,9 @@ void CellPainter::Paint(const CellLook& cell)
     }
     foreground = lastReadable_;
 
+    // The lines first, as what the inner part leaves of the whole.
+    painter_.fillRect(cell.Place, cell.IsFixed ? fixedLineColor_ : lineColor_);
     painter_.fillRect(inner, background);
-    const QColor& line = cell.IsFixed ? fixedLineColor_ : lineColor_;
-    painter_.fillRect(QRectF(inner.right(), cell.Place.top(), line_, cell.Place.height()), line);
-    painter_.fillRect(QRectF(cell.Place.left(), inner.bottom(), inner.width(), line_), line);
     if (cell.ShowsArrow)
         PaintArrow(cell, inner, foreground);
     if (!cell.Text.empty())

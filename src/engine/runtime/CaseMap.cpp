@@ -3,6 +3,7 @@
 #include "engine/runtime/CaseTable.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -13,7 +14,7 @@ namespace Tessellon {
 namespace {
 
 template <typename Range>
-const Range* RangeOf(std::span<const Range> ranges, char16_t unit)
+constexpr const Range* RangeOf(std::span<const Range> ranges, char16_t unit)
 {
     const auto behind = std::ranges::upper_bound(ranges, unit, {}, &Range::First);
     if (behind == ranges.begin())
@@ -22,7 +23,7 @@ const Range* RangeOf(std::span<const Range> ranges, char16_t unit)
     return unit <= range.Last ? &range : nullptr;
 }
 
-char16_t Mapped(std::span<const CaseRange> ranges, char16_t unit)
+constexpr char16_t Mapped(std::span<const CaseRange> ranges, char16_t unit)
 {
     const CaseRange* range = RangeOf(ranges, unit);
     if (range == nullptr || (unit - range->First) % range->Step != 0)
@@ -30,11 +31,19 @@ char16_t Mapped(std::span<const CaseRange> ranges, char16_t unit)
     return static_cast<char16_t>(unit + range->Distance);
 }
 
+/// Of the letters with which most texts are written, without a search.
+constexpr auto upperCaseOfLatin = [] {
+    std::array<char16_t, 0x180> units{};
+    for (char16_t unit = 0; unit < units.size(); ++unit)
+        units.at(unit) = Mapped(upperCaseRanges, unit);
+    return units;
+}();
+
 } // namespace
 
 char16_t UpperCaseByTable(char16_t unit)
 {
-    return Mapped(upperCaseRanges, unit);
+    return unit < upperCaseOfLatin.size() ? upperCaseOfLatin[unit] : Mapped(upperCaseRanges, unit);
 }
 
 char16_t LowerCaseByTable(char16_t unit)
@@ -67,7 +76,7 @@ void UpperCaseTo(std::u16string& out, std::u16string_view text)
         units[i] = static_cast<char16_t>(unit - (static_cast<char16_t>(unit - u'a') < 26 ? 0x20 : 0));
     }
     if (all >= 0x80)
-        std::transform(text.begin(), text.end(), units, [](char16_t unit) { return UpperCase(unit); });
+        std::transform(text.begin(), text.end(), units, UpperCaseByTable);
 }
 
 bool EqualIgnoringCase(std::u16string_view left, std::u16string_view right)
