@@ -14,7 +14,7 @@ namespace Tessellon {
 namespace {
 
 template <typename Range>
-constexpr const Range* RangeOf(std::span<const Range> ranges, char16_t unit)
+const Range* RangeOf(std::span<const Range> ranges, char16_t unit)
 {
     const auto behind = std::ranges::upper_bound(ranges, unit, {}, &Range::First);
     if (behind == ranges.begin())
@@ -23,7 +23,7 @@ constexpr const Range* RangeOf(std::span<const Range> ranges, char16_t unit)
     return unit <= range.Last ? &range : nullptr;
 }
 
-constexpr char16_t Mapped(std::span<const CaseRange> ranges, char16_t unit)
+char16_t Mapped(std::span<const CaseRange> ranges, char16_t unit)
 {
     const CaseRange* range = RangeOf(ranges, unit);
     if (range == nullptr || (unit - range->First) % range->Step != 0)
@@ -35,7 +35,10 @@ constexpr char16_t Mapped(std::span<const CaseRange> ranges, char16_t unit)
 constexpr auto upperCaseOfLatin = [] {
     std::array<char16_t, 0x180> units{};
     for (char16_t unit = 0; unit < units.size(); ++unit)
-        units.at(unit) = Mapped(upperCaseRanges, unit);
+        units.at(unit) = unit;
+    for (const CaseRange& range : upperCaseRanges)
+        for (std::uint32_t unit = range.First; unit <= range.Last && unit < units.size(); unit += range.Step)
+            units.at(unit) = static_cast<char16_t>(static_cast<std::int32_t>(unit) + range.Distance);
     return units;
 }();
 
