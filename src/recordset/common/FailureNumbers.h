@@ -3,10 +3,12 @@
 #include <cstdint>
 #include <string_view>
 
-/// The numbers by which failures of providers are told, whatever the provider.
+/// The numbers by which recordsets fail, and by which failures of providers are told, whatever the provider.
 namespace Tessellon::Common {
 
 inline constexpr std::int32_t OutOfMemory = 7;
+inline constexpr std::int32_t SubscriptOutOfRange = 9;
+inline constexpr std::int32_t NoCurrentRecord = 3021;
 inline constexpr std::int32_t Unspecified = -2147467259; // 80004005
 inline constexpr std::int32_t PermissionDenied = -2147217911; // 80040E09
 inline constexpr std::int32_t WrongCommand = -2147217900; // 80040E14

@@ -1,6 +1,7 @@
 #include "recordset/kept/KeptRecords.h"
 
 #include "engine/Failures.h"
+#include "recordset/common/FailureNumbers.h"
 #include "recordset/kept/PackedValue.h"
 
 #include <algorithm>
@@ -9,9 +10,6 @@
 namespace Tessellon {
 
 namespace {
-
-constexpr std::int32_t SubscriptOutOfRange = 9;
-constexpr std::int32_t NoCurrentRecord = 3021;
 
 constexpr std::size_t FirstCapacity = 4096;
 constexpr std::size_t LargestCapacity = std::size_t{1} << 20U;
@@ -53,7 +51,7 @@ void KeptRecords::AddChunk(std::size_t bytes)
 void KeptRecords::MoveFirst()
 {
     if (count_ == 0)
-        Fail(NoCurrentRecord, u"Recordset");
+        Fail(Common::NoCurrentRecord, u"Recordset");
     record_ = 0;
     field_ = 0;
     start_ = next_ = First();
@@ -62,7 +60,7 @@ void KeptRecords::MoveFirst()
 void KeptRecords::MoveNext()
 {
     if (AtEnd())
-        Fail(NoCurrentRecord, u"Recordset");
+        Fail(Common::NoCurrentRecord, u"Recordset");
     SkipTo(fields_);
     start_ = next_;
     field_ = 0;
@@ -72,9 +70,9 @@ void KeptRecords::MoveNext()
 Value KeptRecords::FieldValue(std::int32_t field)
 {
     if (AtEnd())
-        Fail(NoCurrentRecord, u"Recordset");
+        Fail(Common::NoCurrentRecord, u"Recordset");
     if (field < 0 || field >= fields_)
-        Fail(SubscriptOutOfRange, u"Recordset");
+        Fail(Common::SubscriptOutOfRange, u"Recordset");
     if (field < field_) {
         next_ = start_;
         field_ = 0;

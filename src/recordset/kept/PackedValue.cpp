@@ -1,5 +1,7 @@
 #include "recordset/kept/PackedValue.h"
 
+#include "engine/runtime/ByteUnits.h"
+
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -74,14 +76,6 @@ double Real(const unsigned char* from, std::size_t bytes)
     return std::bit_cast<double>(bytes == 0 ? 0 : Word(from, bytes) << (8 * (WordBytes - bytes)));
 }
 
-bool FitsBytes(std::u16string_view text)
-{
-    std::uint32_t all = 0;
-    for (const char16_t unit : text)
-        all |= unit;
-    return all < 256;
-}
-
 unsigned char* PackText(std::u16string_view text, unsigned char* to)
 {
     if (!FitsBytes(text)) {
@@ -93,9 +87,8 @@ unsigned char* PackText(std::u16string_view text, unsigned char* to)
         *to++ = static_cast<unsigned char>(Short | text.size());
     else
         to = PackWord(Long, 2 * std::uint64_t{text.size()}, to);
-    for (const char16_t unit : text)
-        *to++ = static_cast<unsigned char>(unit);
-    return to;
+    Narrow(reinterpret_cast<char*>(to), text);
+    return to + text.size();
 }
 
 /// A text as it is packed.

@@ -12,12 +12,6 @@
 
 namespace Tessellon {
 
-namespace {
-
-constexpr std::int32_t SubscriptOutOfRange = 9;
-
-} // namespace
-
 /// What a read failed with, and what the provider said of it.
 struct OdbcRecordset::Break {
     Failure Reason;
@@ -124,7 +118,7 @@ void OdbcRecordset::FailAgain() const
 const OdbcRecordset::Field& OdbcRecordset::FieldAt(std::int32_t field) const
 {
     if (field < 0 || static_cast<std::size_t>(field) >= fields_.size())
-        Fail(SubscriptOutOfRange, u"Recordset");
+        Fail(Common::SubscriptOutOfRange, u"Recordset");
     return fields_[static_cast<std::size_t>(field)];
 }
 

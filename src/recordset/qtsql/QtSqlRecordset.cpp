@@ -16,9 +16,6 @@ namespace Tessellon {
 
 namespace {
 
-constexpr std::int32_t SubscriptOutOfRange = 9;
-constexpr std::int32_t NoCurrentRecord = 3021;
-
 QtSql::Numbering NumberingOf(const QSqlDriver& driver)
 {
     if (driver.inherits("QSQLiteDriver"))
@@ -49,14 +46,14 @@ void QtSqlRecordset::MoveFirst()
         kept_->MoveFirst();
     } else if (!query_.first()) {
         CheckEnd();
-        Fail(NoCurrentRecord, u"Recordset");
+        Fail(Common::NoCurrentRecord, u"Recordset");
     }
 }
 
 void QtSqlRecordset::MoveNext()
 {
     if (AtEnd())
-        Fail(NoCurrentRecord, u"Recordset");
+        Fail(Common::NoCurrentRecord, u"Recordset");
     if (!kept_) {
         if (!query_.next())
             CheckEnd();
@@ -76,18 +73,18 @@ std::int32_t QtSqlRecordset::FieldCount()
 std::int32_t QtSqlRecordset::FieldType(std::int32_t field)
 {
     if (field < 0 || field >= FieldCount())
-        Fail(SubscriptOutOfRange, u"Recordset");
+        Fail(Common::SubscriptOutOfRange, u"Recordset");
     return fields_[static_cast<std::size_t>(field)].Type;
 }
 
 Value QtSqlRecordset::FieldValue(std::int32_t field)
 {
     if (AtEnd())
-        Fail(NoCurrentRecord, u"Recordset");
+        Fail(Common::NoCurrentRecord, u"Recordset");
     if (kept_)
         return kept_->FieldValue(field);
     if (field < 0 || field >= FieldCount())
-        Fail(SubscriptOutOfRange, u"Recordset");
+        Fail(Common::SubscriptOutOfRange, u"Recordset");
     return Read(field);
 }
 

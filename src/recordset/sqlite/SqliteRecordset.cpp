@@ -2,6 +2,7 @@
 
 #include "engine/Failures.h"
 #include "recordset/common/Digits.h"
+#include "recordset/common/FailureNumbers.h"
 #include "recordset/common/Unicode.h"
 #include "recordset/sqlite/SqliteDatabase.h"
 #include "recordset/sqlite/StoredMoment.h"
@@ -22,9 +23,6 @@ using Sqlite::Reading;
 namespace {
 
 constexpr int WalksOfOneSnapshot = 2;
-
-constexpr std::int32_t SubscriptOutOfRange = 9;
-constexpr std::int32_t NoCurrentRecord = 3021;
 
 FieldShape ShapeOfStorage(int storage)
 {
@@ -82,14 +80,14 @@ void SqliteRecordset::MoveFirst()
         return;
     Arrive();
     if (place_ == Place::End)
-        Fail(NoCurrentRecord, u"Recordset");
+        Fail(Common::NoCurrentRecord, u"Recordset");
 }
 
 void SqliteRecordset::MoveNext()
 {
     Arrive();
     if (place_ == Place::End)
-        Fail(NoCurrentRecord, u"Recordset");
+        Fail(Common::NoCurrentRecord, u"Recordset");
     Step();
 }
 
@@ -118,7 +116,7 @@ Value SqliteRecordset::FieldValue(std::int32_t field)
     if (place_ != Place::Record) {
         Arrive();
         if (place_ == Place::End)
-            Fail(NoCurrentRecord, u"Recordset");
+            Fail(Common::NoCurrentRecord, u"Recordset");
     }
     CheckField(field);
 
@@ -219,7 +217,7 @@ void SqliteRecordset::Describe()
 void SqliteRecordset::CheckField(std::int32_t field) const
 {
     if (field < 0 || static_cast<std::size_t>(field) >= fields_.size())
-        Fail(SubscriptOutOfRange, u"Recordset");
+        Fail(Common::SubscriptOutOfRange, u"Recordset");
 }
 
 std::u16string_view SqliteRecordset::Characters(sqlite3_value* value)
